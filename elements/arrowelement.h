@@ -1,0 +1,16 @@
+#pragma once
+
+#include "elements/twopointelement.h"
+
+/// A shaft from start (tail) to end (tip) with a filled triangular head at the tip.
+class ArrowElement : public TwoPointElement
+{
+public:
+    ArrowElement(const QPoint &startPoint, const QPoint &endPoint, const QColor &penColor,
+        int width, double penOpacity);
+
+    void paint(QPainter *painter) const override;
+    bool contains(const QPoint &point, int tolerance) const override;
+    QRect boundingRect() const override;
+    QRect paintedRect() const override;
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "elements/drawingelement.h"
+
+#include <QList>
+#include <QPainterPath>
+
+/// A pen stroke: the points that the pointer passed through, drawn as one smoothed curve.
+/// With `isEraser` set it clears what lies under it instead.
+class FreehandElement : public DrawingElement
+{
+public:
+    FreehandElement(const QColor &penColor, int width, double penOpacity);
+
+    void paint(QPainter *painter) const override;
+    bool contains(const QPoint &point, int tolerance) const override;
+    void move(const QPoint &offset) override;
+    void scale(double factor, const QPoint &center) override;
+    void rotate(double angle, const QPoint &center) override;
+    QRect boundingRect() const override;
+    void scaleAxes(double factorX, double factorY, const QPoint &center) override;
+    QRect paintedRect() const override;
+
+    QList<QPoint> points;
+    /// The smoothed curve; empty means that it has not been built yet. Whoever changes `points`
+    /// either rebuilds it or sets it to an empty path.
+    mutable QPainterPath path;
+};

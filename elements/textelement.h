@@ -1,0 +1,24 @@
+#pragma once
+
+#include "elements/anchoredelement.h"
+
+/// A block of one or more lines of text, separated by line feeds. Ignores opacity and pen width.
+class TextElement : public AnchoredElement
+{
+public:
+    TextElement(const QPoint &topLeft, const QString &content, int pointSize,
+        const QColor &penColor, int width, double penOpacity);
+
+    void paint(QPainter *painter) const override;
+    bool contains(const QPoint &point, int tolerance) const override;
+    QRect boundingRect() const override;
+    QRect paintedRect() const override;
+
+    QPoint position; ///< top-left corner of the block
+    QString text;
+    int fontSize; ///< points
+
+protected:
+    QPoint &anchor() override { return position; }
+    void scaleLength(double factor) override;
+};
