@@ -1,0 +1,195 @@
+#include "canvas/peninput.h"
+
+#include "canvas/canvasdocument.h"
+#include "canvas/canvasevents.h"
+#include "canvas/eraser.h"
+#include "canvas/logtexts.h"
+#include "canvas/numberstamp.h"
+#include "canvas/shiftsnap.h"
+#include "elements/arrowelement.h"
+#include "elements/circleelement.h"
+#include "elements/freehandelement.h"
+#include "elements/geometry.h"
+#include "elements/lineelement.h"
+#include "elements/rectangleelement.h"
+
+#include <QDebug>
+
+#include <cmath>
+
+namespace
+{
+
+int distanceBetween(const QPoint &from, const QPoint &to)
+{
+    const double dx = static_cast<double>(to.x()) - from.x();
+    const double dy = static_cast<double>(to.y()) - from.y();
+    return geometry::truncated(std::sqrt(dx * dx + dy * dy));
+}
+
+} // namespace
+
+PenInput::PenInput(CanvasDocument &document, Eraser &eraser, NumberStamp &numbers)
+    : m_document(document), m_eraser(eraser), m_numbers(numbers)
+{
+}
+
+void PenInput::begin(const QPoint &pos)
+{
+    m_startPos = pos;
+    m_justBegun = true;
+    m_strokePoints = { pos };
+    m_current.reset();
+    if (m_drawMode == DrawingElement::NumberedCircle)
+        m_numbers.stampAt(pos);
+}
+
+void PenInput::move(const QPoint &pos, bool shiftPressed)
+{
+    if (m_drawMode == DrawingElement::NumberedCircle)
+        return;
+    if (m_justBegun)
+        m_startPos = pos;
+    const QPoint previous = m_strokePoints.isEmpty() ? pos : m_strokePoints.constLast();
+    m_strokePoints.append(pos);
+    if (m_erasing && m_drawMode == DrawingElement::Freehand) {
+        eraseTo(previous, pos);
+        return;
+    }
+    if (m_drawMode == DrawingElement::Freehand)
+        extendStroke();
+    else
+        shapeElement(snapped(pos, shiftPressed));
+}
+
+void PenInput::eraseTo(const QPoint &previous, const QPoint &pos)
+{
+    if (m_justBegun) {
+        m_justBegun = false;
+        m_eraser.beginGroup();
+    }
+    m_eraser.erase(previous, pos);
+}
+
+void PenInput::extendStroke()
+{
+    // Every move counts twice; the curve looks the same for it, and strokes keep their shape.
+    m_strokePoints.append(m_strokePoints.constLast());
+    if (m_justBegun) {
+        const PenState &pen = m_document.pen;
+        auto stroke = std::make_unique<FreehandElement>(pen.color, pen.size, pen.opacity);
+        stroke->points = m_strokePoints;
+        startElement(std::move(stroke));
+    } else if (auto *stroke = dynamic_cast<FreehandElement *>(m_current.get())) {
+        const QRect before = stroke->paintedRect();
+        stroke->points = m_strokePoints;
+        stroke->path = QPainterPath();
+        m_document.events.contentChanged(before | stroke->paintedRect());
+    }
+}
+
+void PenInput::shapeElement(const QPoint &target)
+{
+    DrawingElement *current = m_current.get();
+    if (!current) {
+        if (m_justBegun) {
+            if (ElementPtr shape = createShape(target))
+                startElement(std::move(shape));
+        }
+        return;
+    }
+    const QRect before = current->paintedRect();
+    if (auto *circle = dynamic_cast<CircleElement *>(current))
+        circle->radius = distanceBetween(m_startPos, target);
+    else if (auto *shape = dynamic_cast<TwoPointElement *>(current))
+        shape->end = target;
+    m_document.events.contentChanged(before | current->paintedRect());
+}
+
+ElementPtr PenInput::createShape(const QPoint &target) const
+{
+    const auto &[color, size, opacity] = m_document.pen;
+    switch (m_drawMode) {
+    case DrawingElement::Line:
+        return std::make_unique<LineElement>(m_startPos, target, color, size, opacity);
+    case DrawingElement::Circle:
+        return std::make_unique<CircleElement>(
+            m_startPos, distanceBetween(m_startPos, target), color, size, opacity);
+    case DrawingElement::Rectangle:
+        return std::make_unique<RectangleElement>(m_startPos, target, color, size, opacity);
+    case DrawingElement::Arrow:
+        return std::make_unique<ArrowElement>(m_startPos, target, color, size, opacity);
+    default:
+        return nullptr; // text and numbers are placed, not dragged
+    }
+}
+
+QPoint PenInput::snapped(const QPoint &pos, bool shiftPressed) const
+{
+    if (shiftPressed && m_drawMode == DrawingElement::Line)
+        return ShiftSnap::toEighthTurn(m_startPos, pos);
+    if (shiftPressed && m_drawMode == DrawingElement::Rectangle)
+        return ShiftSnap::toSquare(m_startPos, pos);
+    return pos;
+}
+
+void PenInput::startElement(ElementPtr element)
+{
+    m_justBegun = false;
+    DrawingElement *started = m_document.addElement(std::move(element));
+    m_current = ElementRef(started);
+    m_document.events.contentChanged(started->paintedRect());
+}
+
+void PenInput::end(const QPoint &pos, bool shiftPressed)
+{
+    if (m_drawMode == DrawingElement::NumberedCircle)
+        return;
+    QString finishedId;
+    if (DrawingElement *current = m_current.get()) {
+        finishElement(pos, snapped(pos, shiftPressed));
+        finishedId = current->id;
+    }
+    m_current.reset();
+    m_strokePoints.clear();
+    m_document.events.contentChanged(QRect());
+    if (!finishedId.isEmpty()) {
+        qDebug() << CanvasLog::kElementAdded << finishedId;
+        m_document.events.elementCompleted(finishedId);
+    }
+}
+
+void PenInput::finishElement(const QPoint &pos, const QPoint &target)
+{
+    auto *stroke = dynamic_cast<FreehandElement *>(m_current.get());
+    if (!stroke) {
+        shapeElement(target);
+        return;
+    }
+    const QRect before = stroke->paintedRect();
+    if (!m_strokePoints.isEmpty() && m_strokePoints.constLast() != pos)
+        m_strokePoints.append(pos);
+    stroke->points = m_strokePoints;
+    stroke->path = QPainterPath();
+    m_document.events.contentChanged(before | stroke->paintedRect());
+}
+
+void PenInput::setDrawMode(int mode)
+{
+    abandonGesture();
+    m_startPos = QPoint();
+    m_drawMode = mode;
+}
+
+void PenInput::setErasing(bool erasing)
+{
+    abandonGesture();
+    m_erasing = erasing;
+}
+
+void PenInput::abandonGesture()
+{
+    m_current.reset();
+    m_strokePoints.clear();
+    m_justBegun = true;
+}

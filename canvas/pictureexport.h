@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QSize>
+#include <QString>
+
+class ElementList;
+
+/// Saves the marks, without the screen beneath, as a PNG with a transparent background.
+class PictureExport
+{
+public:
+    explicit PictureExport(const ElementList &elements) : m_elements(elements) { }
+
+    /// Writes the picture beside the executable; an older one of the same second is replaced. The
+    /// outcome is only logged; without elements or without a size nothing happens.
+    void saveBesideExecutable(const QSize &size) const;
+
+    /// Writes the picture beside the executable or, where that fails, into the user's pictures
+    /// folder; never replaces a file. Returns the path, or an empty text: see `error()`.
+    /// `size` is the canvas's in logical pixels, the picture has `ratio` pixels for each.
+    QString save(const QSize &size, qreal ratio);
+    /// Why the latest `save` returned nothing, for people.
+    [[nodiscard]] QString error() const { return m_error; }
+
+private:
+    const ElementList &m_elements;
+    QString m_error;
+};
