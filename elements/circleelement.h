@@ -20,4 +20,7 @@ public:
 protected:
     QPoint &anchor() override { return center; }
     void scaleLength(double factor) override;
+
+private:
+    QRectF outline() const;
 };

@@ -40,10 +40,12 @@ public:
     virtual QRect boundingRect() const = 0;
 
     /// Scales each axis by its own factor; a length takes the mean of the two, truncated.
-    virtual void scaleAxes(double factorX, double factorY, const QPoint &center) = 0;
+    /// Unless a kind knows better, it is scaled evenly by that mean.
+    virtual void scaleAxes(double factorX, double factorY, const QPoint &center);
     /// Every pixel that `paint` may touch lies inside this rectangle: pen width, arrow heads,
     /// glyph overhang and antialiasing included.
-    virtual QRect paintedRect() const = 0;
+    /// Cheap enough to ask of every element of a full canvas on each change.
+    virtual QRect paintedRect() const;
 
     QString id; ///< braced UUID; copies keep the id of their source
     qint32 type; ///< a `Kind`
@@ -54,6 +56,14 @@ public:
 
 protected:
     DrawingElement(qint32 kind, const QColor &penColor, int width, double penOpacity);
+
+    /// Gives the painter the solid, round pen of an outline in the element's colour and opacity,
+    /// and switches antialiasing on.
+    void setUpPen(QPainter *painter) const;
+    /// The same in another colour, taken as it stands.
+    void setUpPen(QPainter *painter, const QColor &penColor) const;
+    /// How far the pen can touch pixels beside the line that it follows.
+    double penReach() const;
 
 private:
     friend class ElementRef;

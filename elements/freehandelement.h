@@ -25,4 +25,11 @@ public:
     /// The smoothed curve; empty means that it has not been built yet. Whoever changes `points`
     /// either rebuilds it or sets it to an empty path.
     mutable QPainterPath path;
+
+private:
+    /// The rectangle from the outermost points; there must be a point.
+    QRectF pointsArea() const;
+    QPainterPath smoothedPath() const;
+    /// Replaces every point and rebuilds the path.
+    template <typename Transform> void transformPoints(Transform transform);
 };

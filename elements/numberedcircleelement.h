@@ -19,4 +19,8 @@ public:
 
 protected:
     QPoint &anchor() override { return center; }
+
+private:
+    /// The square that the ring fills.
+    QRectF outline() const;
 };

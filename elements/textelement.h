@@ -1,6 +1,9 @@
 #pragma once
 
 #include "elements/anchoredelement.h"
+#include "elements/textlayout.h"
+
+#include <optional>
 
 /// A block of one or more lines of text, separated by line feeds. Ignores opacity and pen width.
 class TextElement : public AnchoredElement
@@ -21,4 +24,11 @@ public:
 protected:
     QPoint &anchor() override { return position; }
     void scaleLength(double factor) override;
+
+private:
+    /// Measured when first asked for, and again whenever the text or its size has changed.
+    const TextLayout &layout() const;
+    void drawLines(QPainter *painter, const TextLayout &block) const;
+
+    mutable std::optional<TextLayout> m_layout;
 };

@@ -2,6 +2,8 @@
 
 #include "elements/drawingelement.h"
 
+#include <optional>
+
 /// What line, rectangle and arrow share: two points that move, scale and rotate alike.
 class TwoPointElement : public DrawingElement
 {
@@ -19,4 +21,13 @@ public:
 protected:
     TwoPointElement(qint32 kind, const QPoint &startPoint, const QPoint &endPoint,
         const QColor &penColor, int width, double penOpacity);
+
+    /// The rectangle around both points, moved up and left by `before` and enlarged by `extra`.
+    QRect pointsRect(qint64 before, qint64 extra) const;
+    /// Where the point falls on the way from start (0) to end (1), unclamped; nothing when the
+    /// points are less than a pixel apart. The way is measured in whole pixels, so the answer runs
+    /// slightly ahead of the exact one.
+    std::optional<double> projection(const QPoint &point) const;
+    /// Whether the point is within the pen width plus `tolerance` of the place at `share`.
+    bool shaftContains(const QPoint &point, double share, int tolerance) const;
 };

@@ -1,0 +1,57 @@
+#include "elements/drawingelement.h"
+
+#include "elements/geometry.h"
+
+#include <QPainter>
+#include <QPen>
+#include <QUuid>
+
+#include <algorithm>
+
+namespace
+{
+/// From this opacity on a mark counts as opaque and keeps the alpha of its colour.
+constexpr double kOpaqueFrom = 0.99;
+/// Room for antialiasing and for the curves that stand in for round caps and joins.
+constexpr double kAntialiasingPx = 2.0;
+constexpr int kUnknownKindMarginPx = 16;
+} // namespace
+
+DrawingElement::DrawingElement(qint32 kind, const QColor &penColor, int width, double penOpacity)
+    : id(QUuid::createUuid().toString()), type(kind), color(penColor), penWidth(width),
+      opacity(penOpacity)
+{
+}
+
+DrawingElement::~DrawingElement() = default;
+
+void DrawingElement::scaleAxes(double factorX, double factorY, const QPoint &center)
+{
+    scale((factorX + factorY) * 0.5, center);
+}
+
+QRect DrawingElement::paintedRect() const
+{
+    return geometry::enclosingRect(
+        QRectF(boundingRect()), std::max(penWidth, 0) + double(kUnknownKindMarginPx));
+}
+
+void DrawingElement::setUpPen(QPainter *painter) const
+{
+    QColor penColor = color;
+    if (opacity < kOpaqueFrom)
+        penColor.setAlphaF(static_cast<float>(std::max(opacity, 0.0)));
+    setUpPen(painter, penColor);
+}
+
+void DrawingElement::setUpPen(QPainter *painter, const QColor &penColor) const
+{
+    painter->setPen(
+        QPen(penColor, std::max(penWidth, 0), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->setRenderHint(QPainter::Antialiasing);
+}
+
+double DrawingElement::penReach() const
+{
+    return std::max(penWidth, 0) / 2.0 + kAntialiasingPx;
+}

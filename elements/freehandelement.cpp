@@ -1,0 +1,129 @@
+#include "elements/freehandelement.h"
+
+#include "elements/geometry.h"
+
+#include <QPainter>
+#include <QPainterPathStroker>
+
+#include <algorithm>
+
+namespace
+{
+/// The first segments stay straight; curves begin with the segment that ends at this point.
+constexpr qsizetype kFirstCurvedPoint = 3;
+} // namespace
+
+FreehandElement::FreehandElement(const QColor &penColor, int width, double penOpacity)
+    : DrawingElement(Freehand, penColor, width, penOpacity)
+{
+}
+
+void FreehandElement::paint(QPainter *painter) const
+{
+    if (points.isEmpty())
+        return;
+    const QPainter::CompositionMode mode = painter->compositionMode();
+    if (isEraser) {
+        setUpPen(painter, Qt::white);
+        painter->setCompositionMode(QPainter::CompositionMode_Clear);
+    } else {
+        setUpPen(painter);
+    }
+    if (path.isEmpty() && points.size() > 1)
+        path = smoothedPath();
+    if (!path.isEmpty())
+        painter->drawPath(path);
+    else if (points.size() == 1)
+        painter->drawPoint(points.first());
+    painter->setCompositionMode(mode);
+}
+
+bool FreehandElement::contains(const QPoint &point, int tolerance) const
+{
+    const QPointF p(point);
+    if (path.isEmpty()) {
+        const double reach = double(penWidth) + tolerance;
+        return std::any_of(points.cbegin(), points.cend(), [&](const QPoint &q) {
+            return geometry::squaredLength(QPointF(q) - p) <= reach * reach;
+        });
+    }
+    const double width = penWidth + 2.0 * tolerance;
+    // Making the outline of a long stroke is slow, and most strokes are nowhere near the point.
+    const double reach = std::max(width, 1.0);
+    if (!path.controlPointRect().adjusted(-reach, -reach, reach, reach).contains(p))
+        return false;
+    QPainterPathStroker stroker;
+    stroker.setWidth(width);
+    return stroker.createStroke(path).contains(p);
+}
+
+void FreehandElement::move(const QPoint &offset)
+{
+    transformPoints([&](const QPoint &p) { return geometry::translated(p, offset); });
+}
+
+void FreehandElement::scale(double factor, const QPoint &center)
+{
+    FreehandElement::scaleAxes(factor, factor, center);
+}
+
+void FreehandElement::rotate(double angle, const QPoint &center)
+{
+    transformPoints([&](const QPoint &p) { return geometry::rotated(p, angle, center); });
+}
+
+void FreehandElement::scaleAxes(double factorX, double factorY, const QPoint &center)
+{
+    transformPoints([&](const QPoint &p) { return geometry::scaled(p, factorX, factorY, center); });
+}
+
+QRect FreehandElement::boundingRect() const
+{
+    if (points.isEmpty())
+        return {};
+    const QRectF area = pointsArea();
+    const qint64 half = penWidth / 2;
+    return geometry::saturatedRect(qint64(area.left()) - half, qint64(area.top()) - half,
+        qint64(area.width()) + penWidth, qint64(area.height()) + penWidth);
+}
+
+QRect FreehandElement::paintedRect() const
+{
+    if (points.isEmpty())
+        return {};
+    // The path knows its bounds, so the points of a finished stroke are not walked again.
+    const QRectF area = path.isEmpty() ? pointsArea() : path.controlPointRect();
+    return geometry::enclosingRect(area, penReach());
+}
+
+QRectF FreehandElement::pointsArea() const
+{
+    const auto byX = [](const QPoint &a, const QPoint &b) { return a.x() < b.x(); };
+    const auto byY = [](const QPoint &a, const QPoint &b) { return a.y() < b.y(); };
+    const auto [left, right] = std::minmax_element(points.cbegin(), points.cend(), byX);
+    const auto [top, bottom] = std::minmax_element(points.cbegin(), points.cend(), byY);
+    return { QPointF(left->x(), top->y()), QPointF(right->x(), bottom->y()) };
+}
+
+QPainterPath FreehandElement::smoothedPath() const
+{
+    QPainterPath smoothed;
+    if (points.isEmpty())
+        return smoothed;
+    smoothed.moveTo(points.first());
+    for (qsizetype i = 1; i < points.size(); ++i) {
+        const QPointF current(points.at(i));
+        const QPointF previous(points.at(i - 1));
+        if (i < kFirstCurvedPoint)
+            smoothed.lineTo(current);
+        else
+            smoothed.quadTo(previous, (previous + current) * 0.5);
+    }
+    return smoothed;
+}
+
+template <typename Transform> void FreehandElement::transformPoints(Transform transform)
+{
+    std::transform(points.cbegin(), points.cend(), points.begin(), transform);
+    path = smoothedPath();
+}

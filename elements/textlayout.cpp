@@ -1,0 +1,100 @@
+#include "elements/textlayout.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+// Qt has no font of size 0, and the rasterizer no glyphs of unlimited size.
+constexpr int kSmallestPointSize = 1;
+constexpr int kLargestPointSize = 10000;
+// The text engine counts in 26.6 fixed point and wraps around at 2^25 pixels. A run of this length
+// at this distance stays far below that, also when the painter magnifies.
+constexpr int kTextRangePx = 1 << 21;
+// Antialiasing and hinting go beyond the measured ink by a pixel or two, in large sizes by more.
+constexpr double kInkMarginPx = 2.0;
+constexpr double kInkMarginShare = 0.1;
+} // namespace
+
+QFont elementFont(int pointSize)
+{
+    QFont font(
+        QStringLiteral("Arial"), std::clamp(pointSize, kSmallestPointSize, kLargestPointSize));
+    font.setFamilies({ QStringLiteral("Arial"), QStringLiteral("Microsoft YaHei"),
+        QStringLiteral("Noto Sans CJK SC") });
+    return font;
+}
+
+bool isWithinTextRange(const QPointF &origin)
+{
+    return std::abs(origin.x()) <= kTextRangePx && std::abs(origin.y()) <= kTextRangePx;
+}
+
+TextLayout::TextLayout(const QString &text, int fontSize)
+    : m_text(text), m_fontSize(fontSize), m_font(elementFont(fontSize)),
+      m_lines(text.isEmpty() ? QStringList() : text.split(QLatin1Char('\n')))
+{
+    const QFontMetrics metrics(m_font);
+    m_ascent = metrics.ascent();
+    m_lineHeight = metrics.height();
+    double baseline = m_ascent;
+    for (const QString &line : std::as_const(m_lines)) {
+        measure(line, metrics, baseline);
+        baseline += m_lineHeight;
+    }
+    const double margin = kInkMarginPx + kInkMarginShare * m_lineHeight;
+    m_inkRect.adjust(-margin, -margin, margin, margin);
+}
+
+bool TextLayout::isOf(const QString &text, int fontSize) const
+{
+    return fontSize == m_fontSize && text == m_text;
+}
+
+void TextLayout::drawLine(QPainter *painter, const QString &line, const QPointF &baseline) const
+{
+    const QFontMetrics metrics(m_font);
+    QPointF origin = baseline;
+    const QStringList runs = runsOf(line);
+    for (const QString &run : runs) {
+        if (isWithinTextRange(origin))
+            painter->drawText(origin, run);
+        if (runs.size() > 1)
+            origin.rx() += metrics.horizontalAdvance(run);
+    }
+}
+
+void TextLayout::measure(const QString &line, const QFontMetrics &metrics, double baseline)
+{
+    qint64 advance = 0;
+    for (const QString &run : runsOf(line)) {
+        const QRectF ink(metrics.boundingRect(run));
+        m_inkRect |= ink.translated(static_cast<double>(advance), baseline);
+        advance += metrics.horizontalAdvance(run);
+    }
+    m_blockWidth = std::max(m_blockWidth, advance);
+}
+
+QStringList TextLayout::runsOf(const QString &line) const
+{
+    const qsizetype longest = std::max(1, kTextRangePx / std::max(1, m_lineHeight));
+    if (line.size() <= longest)
+        return { line };
+    QStringList runs;
+    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Grapheme, line);
+    for (qsizetype from = 0; from < line.size();) {
+        boundaries.setPosition(std::min(from + longest, line.size()));
+        qsizetype to = boundaries.position();
+        if (!boundaries.isAtBoundary())
+            to = boundaries.toNextBoundary();
+        if (to <= from)
+            to = line.size();
+        runs.append(line.mid(from, to - from));
+        from = to;
+    }
+    return runs;
+}
