@@ -1,0 +1,85 @@
+#include "app/identity.h"
+#include "app/logtexts.h"
+#include "app/rendering.h"
+#include "app/renderingprobe.h"
+#include "app/singleinstance.h"
+#include "app/startup.h"
+#include "app/trayicon.h"
+#include "platform/windowsystem.h"
+#include "settings/settingsclazz.h"
+#include "settings/settingskeys.h"
+#include "settings/translation.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QQmlApplicationEngine>
+#include <QQuickStyle>
+
+namespace
+{
+
+constexpr int kExitNoTray = -1;
+constexpr int kExitNoWindow = -1;
+constexpr int kExitNameRefused = 1;
+
+/// Everything from here on belongs to the one instance that runs.
+int runInterface(QApplication &application, SingleInstance &instance)
+{
+    Startup::setIdentity();
+    QQuickStyle::setStyle(QLatin1String(Identity::kControlsStyle));
+    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
+        qDebug() << StartupLogTexts::kNoSystemTray;
+        return kExitNoTray;
+    }
+    const QString language = Startup::chooseLanguage();
+
+    QQmlApplicationEngine engine;
+    engine.addImportPath(QLatin1String(Identity::kQmlModulesInResources));
+    loadTranslation(&application, language);
+    Startup::publishToDocuments(*engine.rootContext());
+
+    TrayIcon tray;
+    QObject::connect(
+        &engine, &QQmlApplicationEngine::objectCreated, &application,
+        [&tray](QObject *object) { tray.adopt(object); }, Qt::QueuedConnection);
+    QObject::connect(&instance, &SingleInstance::startedAgain, &tray, &TrayIcon::showWindow);
+    tray.show();
+    engine.load(QUrl(QLatin1String(Identity::kRootDocument)));
+    if (engine.rootObjects().isEmpty()) {
+        return kExitNoWindow;
+    }
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    chooseWindowSystem();
+    Startup::initialiseOpenSsl();
+    Startup::requestTranslucentWindows();
+    qputenv("QT_OPENGL", "desktop");
+
+    const RenderingProbe probe(argc, argv);
+    const Rendering rendering = probe.decide();
+    SettingsClazz settings;
+    applyRendering(rendering);
+    settings.setIniValue(QLatin1String(SettingsKeys::kIniRenderingGroup),
+        QLatin1String(SettingsKeys::kIniRenderingKey), iniValue(rendering));
+
+    QApplication application(argc, argv);
+    // Strokes keep every sample that the pointer sends. The constructor of each application object
+    // turns this on again, so only here it holds.
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
+
+    SingleInstance instance;
+    switch (instance.claim(QCoreApplication::arguments())) {
+    case SingleInstance::Claim::HandedOver:
+        return 0;
+    case SingleInstance::Claim::Refused:
+        return kExitNameRefused;
+    case SingleInstance::Claim::Granted:
+        break;
+    }
+    return runInterface(application, instance);
+}

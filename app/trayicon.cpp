@@ -1,0 +1,64 @@
+#include "app/trayicon.h"
+
+#include "app/identity.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QIcon>
+#include <QQuickWindow>
+
+TrayIcon::TrayIcon() : m_toggleAction(new QAction(&m_menu)), m_exitAction(new QAction(&m_menu))
+{
+    retranslate();
+    connect(m_exitAction, &QAction::triggered, this, &QCoreApplication::quit);
+    m_menu.addAction(m_toggleAction);
+    m_menu.addAction(m_exitAction);
+    m_icon.setContextMenu(&m_menu);
+    m_icon.setIcon(QIcon(QLatin1String(Identity::kIcon)));
+}
+
+void TrayIcon::show()
+{
+    m_icon.show();
+}
+
+void TrayIcon::adopt(QObject *object)
+{
+    auto *window = qobject_cast<QQuickWindow *>(object);
+    if (!window) {
+        return;
+    }
+    m_window = window;
+    window->setColor(Qt::transparent);
+    window->setIcon(QIcon(QLatin1String(Identity::kIcon)));
+    connect(m_toggleAction, &QAction::triggered, window, [this] { toggleWindow(); });
+    // The window also hides and shows itself; the text tells what the action would do now.
+    connect(window, &QQuickWindow::visibleChanged, this, &TrayIcon::retranslate);
+    retranslate();
+}
+
+void TrayIcon::showWindow()
+{
+    if (m_window) {
+        m_window->show();
+        m_window->raise();
+        m_window->requestActivate();
+    }
+}
+
+void TrayIcon::retranslate()
+{
+    const bool hidden = m_window && !m_window->isVisible();
+    m_toggleAction->setText(hidden ? QCoreApplication::translate("main", "显示")
+                                   : QCoreApplication::translate("main", "隐藏"));
+    m_exitAction->setText(QCoreApplication::translate("main", "退出"));
+}
+
+void TrayIcon::toggleWindow()
+{
+    if (m_window->isVisible()) {
+        m_window->hide();
+    } else {
+        showWindow();
+    }
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QMenu>
+#include <QObject>
+#include <QPointer>
+#include <QSystemTrayIcon>
+
+class QAction;
+class QQuickWindow;
+
+/// The icon in the notification area with its menu: hide or show the main window, exit.
+class TrayIcon : public QObject
+{
+    Q_OBJECT
+
+public:
+    TrayIcon();
+
+    void show();
+
+    /// Takes an object that the engine created. A window becomes the main window: it is made
+    /// see-through and gets the icon; anything else, null included, is ignored.
+    void adopt(QObject *object);
+
+    /// Brings the main window back to the user's eyes.
+    void showWindow();
+
+    /// Renews the texts after a change of the language.
+    void retranslate();
+
+private:
+    void toggleWindow();
+
+    QMenu m_menu;
+    QSystemTrayIcon m_icon;
+    QAction *m_toggleAction; // owned by the menu, as the next
+    QAction *m_exitAction;
+    QPointer<QQuickWindow> m_window;
+};

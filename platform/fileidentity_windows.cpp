@@ -1,0 +1,6 @@
+#include "platform/fileidentity.h"
+
+std::optional<FileIdentity> fileIdentity(const QString & /*path*/)
+{
+    return std::nullopt;
+}

@@ -1,0 +1,6 @@
+#include "platform/systemmemory.h"
+
+std::optional<SystemMemory> SystemMemory::query()
+{
+    return std::nullopt;
+}

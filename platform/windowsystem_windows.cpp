@@ -1,0 +1,5 @@
+#include "platform/windowsystem.h"
+
+void chooseWindowSystem()
+{
+}

@@ -1,0 +1,74 @@
+#include "settings/fileoutput.h"
+
+#include "settings/logtexts.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+
+#include <optional>
+
+namespace
+{
+
+/// Either separator may occur: the file name comes from script as it stands.
+QString directoryOf(const QString &path)
+{
+    qsizetype separator = path.lastIndexOf(QLatin1Char('/'));
+    if (separator < 0) {
+        separator = path.lastIndexOf(QLatin1Char('\\'));
+    }
+    return separator < 0 ? QStringLiteral(".") : path.left(separator);
+}
+
+std::optional<QByteArray> decode(const QByteArray &data)
+{
+    if (!data.startsWith("data:")) {
+        return QByteArray::fromBase64(data);
+    }
+    const qsizetype comma = data.indexOf(',');
+    if (comma < 0) {
+        return std::nullopt;
+    }
+    return QByteArray::fromBase64(data.mid(comma + 1));
+}
+
+bool write(const QByteArray &payload, const QString &path)
+{
+    QFile file(path);
+    // Unbuffered, so that a full disk shows in the count instead of when the file is closed.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        qWarning() << LogTexts::kCannotOpenFile << path << LogTexts::kCannotOpenFileError
+                   << file.errorString();
+        return false;
+    }
+    const qint64 written = file.write(payload);
+    if (written != payload.size()) {
+        qWarning() << LogTexts::kFileIncomplete << path;
+        return false;
+    }
+    file.close();
+    qDebug() << LogTexts::kFileSaved << path << "(" << written << "bytes)";
+    return true;
+}
+
+} // namespace
+
+bool FileOutput::saveBesideExecutable(const QByteArray &data, const QString &fileName)
+{
+    const QString path = QDir::toNativeSeparators(QCoreApplication::applicationDirPath())
+        + QDir::separator() + fileName;
+    qDebug() << LogTexts::kSavingFile << path;
+    const QString directory = directoryOf(path);
+    if (!QDir(directory).exists() && !QDir().mkpath(directory)) {
+        qWarning() << LogTexts::kCannotCreateDirectory << directory;
+        return false;
+    }
+    const std::optional<QByteArray> payload = decode(data);
+    if (!payload) {
+        qWarning() << LogTexts::kInvalidDataUrl;
+        return false;
+    }
+    return write(*payload, path);
+}

@@ -1,0 +1,75 @@
+#include "settings/inifile.h"
+
+#include "settings/logtexts.h"
+#include "settings/settingskeys.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QStringDecoder>
+
+#include <utility>
+
+IniFile::IniFile(QString path) : m_path(std::move(path))
+{
+}
+
+IniFile IniFile::deployment()
+{
+    return IniFile(QCoreApplication::applicationDirPath() + QDir::separator()
+        + QLatin1String(SettingsKeys::kIniFileName));
+}
+
+QString IniFile::value(const QString &group, const QString &key) const
+{
+    QSettings file(m_path, QSettings::IniFormat);
+    file.beginGroup(group);
+    const QString text = file.value(key, QString()).toString();
+    file.endGroup();
+    return text;
+}
+
+void IniFile::setValue(const QString &group, const QString &key, const QString &value) const
+{
+    const bool damaged = isDamaged();
+    if (damaged && !copyAside()) {
+        qWarning() << LogTexts::kBrokenIniFileNotCopied << m_path;
+        return;
+    }
+    QSettings file(m_path, QSettings::IniFormat);
+    file.beginGroup(group);
+    // An unchanged value in a sound file is not written again: a rewrite drops the comments of
+    // whoever deployed the file.
+    if (damaged || !file.contains(key) || file.value(key).toString() != value) {
+        file.setValue(key, value);
+    }
+    file.endGroup();
+    file.sync();
+}
+
+bool IniFile::isDamaged() const
+{
+    QFile raw(m_path);
+    if (!raw.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString text = decoder(raw.readAll());
+    return decoder.hasError() || text.contains(QChar::Null)
+        || QSettings(m_path, QSettings::IniFormat).status() == QSettings::FormatError;
+}
+
+bool IniFile::copyAside() const
+{
+    const QString stamp =
+        QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_hhmmss_zzz"));
+    const QString copy = m_path + QLatin1String(".broken-") + stamp;
+    if (!QFile::copy(m_path, copy)) {
+        return false;
+    }
+    qWarning() << LogTexts::kBrokenIniFile << copy;
+    return true;
+}

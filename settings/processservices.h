@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+/// Leaving or replacing the running program.
+namespace ProcessServices
+{
+
+/// Tells the new process that its predecessor may still be closing.
+inline constexpr char kRestartSwitch[] = "--restart";
+
+/// Starts a new instance of this executable and asks this one to quit. When the new one cannot be
+/// started this one stays; may then block for a second.
+void restartApplication();
+
+/// Starts `exeName` from the application directory and asks this program to quit, unless there is
+/// no such file.
+void startAndQuit(const QString &exeName);
+
+} // namespace ProcessServices
