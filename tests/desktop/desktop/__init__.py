@@ -1,0 +1,15 @@
+"""Drives the real program on a virtual desktop of its own; see README.md beside this folder."""
+
+from .case import DesktopTestCase, artifacts_folder, main, program_path
+from .inputs import LEFT, MIDDLE, RIGHT
+from .program import Program, install
+from .screen import changed_box, near
+from .session import Desktop
+from .waiting import WaitTimeout, wait_for
+from .windows import Rect, Window
+
+__all__ = [
+    "LEFT", "MIDDLE", "RIGHT", "Desktop", "DesktopTestCase", "Program", "Rect", "WaitTimeout",
+    "Window", "artifacts_folder", "changed_box", "install", "main", "near", "program_path",
+    "wait_for",
+]
