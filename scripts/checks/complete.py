@@ -19,9 +19,10 @@ def parse(path, commands):
         print(f"{path}: no source of its folder is compiled")
         return False
     entry = commands[neighbour]
+    words, output = sources.words_and_output(entry)
     own = os.path.join(sources.ROOT, neighbour)
-    command = [os.path.join(sources.ROOT, path) if word == own else word for word in entry["words"]]
-    command[command.index("-o"):command.index("-o") + 2] = ["-fsyntax-only"]
+    command = [os.path.join(sources.ROOT, path) if word == own else word for word in words]
+    command[output:output + 2] = ["-fsyntax-only"]
     return subprocess.run(command, cwd=entry["directory"]).returncode == 0
 
 

@@ -18,14 +18,19 @@ def tracked(*patterns):
 
 
 def compile_commands(build):
-    """Source path relative to the root -> its entry in the build's compile commands, with the command
-    split into "words" and its "output" named; only this project's own sources."""
+    """Source path relative to the root -> its entry in the build's compile commands; only this
+    project's own sources."""
     with open(os.path.join(build, "compile_commands.json"), encoding="utf-8") as file:
         entries = json.load(file)
     own = {}
     for entry in entries:
         path = os.path.relpath(os.path.join(entry["directory"], entry["file"]), ROOT)
         if not path.startswith(("..", "build" + os.sep)):
-            words = shlex.split(entry["command"])
-            own[path] = {**entry, "words": words, "output": words[words.index("-o") + 1]}
+            own[path] = entry
     return own
+
+
+def words_and_output(entry):
+    """The words of a compile command, and where "-o" stands among them."""
+    words = shlex.split(entry["command"])
+    return words, words.index("-o")

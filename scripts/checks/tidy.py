@@ -27,7 +27,7 @@ def headers_by_object(build):
     """Object path -> the files that its last compilation read, as ninja recorded them."""
     text = subprocess.run(["ninja", "-C", build, "-t", "deps"], check=True,
                           stdout=subprocess.PIPE, text=True).stdout
-    found = {}
+    found, current = {}, None
     for line in text.splitlines():
         if line.startswith("    "):
             found[current].append(line.strip())
@@ -60,7 +60,7 @@ def analyse(path, build):
     done = subprocess.run([TOOL, "-p", build, "--quiet", f"--header-filter={HEADERS}",
                            os.path.join(sources.ROOT, path)],
                           stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
-    return "" if done.returncode == 0 else f"{path}:\n{done.stdout}{done.stderr}"
+    return "" if done.returncode == 0 else f"{path}:\n{done.stdout or done.stderr}"
 
 
 def pending(build, rules):
@@ -68,9 +68,11 @@ def pending(build, rules):
     read = headers_by_object(build)
     waiting = []
     for path, entry in sources.compile_commands(build).items():
-        if entry["output"] not in read:
+        words, output = sources.words_and_output(entry)
+        built = words[output + 1]
+        if built not in read:
             sys.exit(f"{path} has not been built in {build}; build everything first")
-        mark = fingerprint(entry, read[entry["output"]], build, rules)
+        mark = fingerprint(entry, read[built], build, rules)
         if not os.path.exists(os.path.join(PASSED, mark)):
             waiting.append((path, mark))
     return sorted(waiting, key=lambda item: -os.path.getsize(os.path.join(sources.ROOT, item[0])))
