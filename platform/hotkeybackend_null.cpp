@@ -1,0 +1,6 @@
+#include "platform/hotkeybackend.h"
+
+std::unique_ptr<HotKeyBackend> createHotKeyBackend()
+{
+    return createNullHotKeyBackend();
+}
