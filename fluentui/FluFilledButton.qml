@@ -1,0 +1,12 @@
+import QtQuick
+
+/// The button that does what a dialog is for.
+FluButton {
+    id: root
+
+    normalColor: down ? Qt.lighter(FluTheme.primaryColor, 1.2) : FluTheme.primaryColor
+    hoverColor: Qt.lighter(FluTheme.primaryColor, 1.1)
+    dividerColor: "transparent"
+    textColor: FluTheme.onPrimaryColor
+    font: FluTextStyle.BodyStrong
+}

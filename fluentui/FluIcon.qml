@@ -1,0 +1,15 @@
+import QtQuick
+import QtQuick.Controls.impl
+
+/// The drawing of an icon in one colour; it takes its space even when there is none.
+ColorImage {
+    id: root
+
+    property int iconSource: 0
+    property int iconSize: 20
+
+    width: iconSize
+    height: iconSize
+    source: FluIconCatalogue.url(iconSource)
+    sourceSize: Qt.size(iconSize, iconSize)
+}

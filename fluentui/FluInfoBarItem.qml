@@ -1,0 +1,109 @@
+import QtQuick
+
+/// One message. It closes by itself after `duration` ms, or by its button when that is not positive.
+Rectangle {
+    id: root
+
+    property string text: ""
+    property string type: "info"
+    property string moremsg: ""
+    property int duration: 1000
+    property Component customComponent: null
+    property bool isOpen: true
+
+    signal closed
+
+    readonly property bool lasting: duration <= 0
+    readonly property var look: looks[type] ?? looks.info
+    readonly property var looks: ({
+            success: { icon: FluentIcons.CompletedSolid, fill: ["#DFF6DD", "#393D1B"], mark: ["#0F7B0F", "#6CCB5F"] },
+            info: { icon: FluentIcons.InfoSolid, fill: ["#F4F4F4", "#272727"], mark: ["#0066B4", "#4CA0E0"] },
+            warning: { icon: FluentIcons.InfoSolid, fill: ["#FFF4CE", "#433519"], mark: ["#9D5D00", "#FCE100"] },
+            error: { icon: FluentIcons.StatusErrorFull, fill: ["#FDE7E9", "#442726"], mark: ["#C42B1C", "#FF99A4"] }
+        })
+
+    function shade(pair) {
+        return pair[FluTheme.dark ? 1 : 0];
+    }
+
+    function close() {
+        if (!isOpen)
+            return;
+        isOpen = false;
+        timer.stop();
+        closed();
+    }
+
+    function restart() {
+        if (lasting)
+            timer.stop();
+        else
+            timer.restart();
+    }
+
+    width: content.width + (customComponent ? 0 : 2 * content.x)
+    height: content.height + (customComponent ? 0 : 2 * content.y)
+    radius: 4
+    color: customComponent ? "transparent" : shade(look.fill)
+    border.width: customComponent ? 0 : 1
+    border.color: FluTheme.dark ? Qt.rgba(1, 1, 1, 0.08) : Qt.rgba(0, 0, 0, 0.08)
+
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: moremsg === "" ? text : text + "\n" + moremsg
+
+    Component.onCompleted: restart()
+
+    Timer {
+        id: timer
+
+        interval: root.duration
+        onTriggered: root.close()
+    }
+
+    Loader {
+        id: content
+
+        x: root.customComponent ? 0 : 15
+        y: root.customComponent ? 0 : 10
+        sourceComponent: root.customComponent ?? message
+    }
+
+    Component {
+        id: message
+
+        Row {
+            spacing: 10
+
+            FluIcon {
+                iconSource: root.look.icon
+                color: root.shade(root.look.mark)
+            }
+            Column {
+                spacing: 4
+
+                FluText {
+                    width: Math.min(implicitWidth, 300)
+                    text: root.text
+                    wrapMode: Text.Wrap
+                }
+                FluText {
+                    width: Math.min(implicitWidth, 300)
+                    visible: text !== ""
+                    text: root.moremsg
+                    textColor: FluTheme.secondaryTextColor
+                    wrapMode: Text.Wrap
+                }
+            }
+            FluIconButton {
+                visible: root.lasting
+                width: 24
+                height: 24
+                padding: 0
+                iconSource: FluentIcons.ChromeClose
+                iconSize: 12
+                contentDescription: qsTr("Close")
+                onClicked: root.close()
+            }
+        }
+    }
+}

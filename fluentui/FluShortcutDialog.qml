@@ -1,0 +1,101 @@
+import QtQuick
+import QtQuick.Templates as T
+
+/// Captures a key combination for a shortcut picker. It is left by its buttons only.
+T.Popup {
+    id: root
+
+    required property FluShortcutPicker picker
+
+    property var keys: picker.current
+
+    parent: T.Overlay.overlay
+    x: Math.round((parent.width - width) / 2)
+    y: Math.round((parent.height - height) / 2)
+    width: Math.min(400, parent.width - 40)
+    height: layout.height
+    modal: true
+    focus: true
+    closePolicy: T.Popup.NoAutoClose
+
+    Accessible.role: Accessible.Dialog
+    Accessible.name: picker.title
+
+    onOpened: capture.forceActiveFocus()
+
+    background: FluFlyoutBackground {
+        radius: 8
+    }
+
+    T.Overlay.modal: Rectangle {
+        color: FluTheme.dimColor
+    }
+
+    contentItem: FluKeyCapture {
+        id: capture
+
+        focus: true
+        onCaptured: names => root.keys = names
+
+        Column {
+            id: layout
+
+            width: capture.width
+
+            Column {
+                width: parent.width
+                padding: 20
+                bottomPadding: 24
+                spacing: 12
+
+                FluText {
+                    width: parent.width - 40
+                    text: root.picker.title
+                    font: Qt.font({ family: FluTextStyle.Title.family, pixelSize: 20, weight: Font.DemiBold })
+                    wrapMode: Text.Wrap
+                }
+                FluText {
+                    width: parent.width - 40
+                    text: root.picker.message
+                    textColor: FluTheme.secondaryTextColor
+                    wrapMode: Text.Wrap
+                }
+                Item {
+                    width: parent.width - 40
+                    height: 92
+
+                    FluKeyCaps {
+                        anchors.centerIn: parent
+                        capHeight: 44
+                        spacing: 8
+                        font: Qt.font({ family: FluTextStyle.Title.family, pixelSize: 16, weight: Font.DemiBold })
+                        keys: root.keys
+                    }
+                }
+            }
+            FluDialogFooter {
+                width: parent.width
+                radius: 8
+
+                FluButton {
+                    width: parent.buttonWidth
+                    text: root.picker.neutralText
+                    onClicked: root.close()
+                }
+                FluButton {
+                    width: parent.buttonWidth
+                    text: root.picker.negativeText
+                    onClicked: root.keys = root.picker.current
+                }
+                FluFilledButton {
+                    width: parent.buttonWidth
+                    text: root.picker.positiveText
+                    onClicked: {
+                        root.picker.accept(root.keys);
+                        root.close();
+                    }
+                }
+            }
+        }
+    }
+}

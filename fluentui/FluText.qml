@@ -1,0 +1,10 @@
+import QtQuick
+
+Text {
+    id: root
+
+    property color textColor: FluTheme.fontPrimaryColor
+
+    color: textColor
+    font: FluTextStyle.Body
+}

@@ -1,0 +1,25 @@
+#include "fluentui/flutextstyle.h"
+
+#include <QGuiApplication>
+
+namespace
+{
+
+QFont textFont(int sizePx, QFont::Weight weight = QFont::Normal)
+{
+    QFont font = QGuiApplication::font();
+#ifdef Q_OS_WIN
+    font.setFamily(QStringLiteral("Microsoft YaHei"));
+#endif
+    font.setPixelSize(sizePx);
+    font.setWeight(weight);
+    return font;
+}
+
+} // namespace
+
+FluTextStyle::FluTextStyle(QObject *parent)
+    : QObject(parent), m_caption(textFont(12)), m_body(textFont(13)),
+      m_bodyStrong(textFont(13, QFont::DemiBold)), m_title(textFont(28, QFont::DemiBold))
+{
+}
