@@ -4,7 +4,8 @@
 # Import paths under which qmlcachegen and qmllint find this project's modules and Qt's own.
 set(DRAVELIN_QML_MODULES_DIR "${CMAKE_BINARY_DIR}/qml_modules")
 set(DRAVELIN_QML_IMPORT_ARGS
-    -I "${DRAVELIN_QML_MODULES_DIR}" -I "${QT6_INSTALL_PREFIX}/${QT6_INSTALL_QML}")
+    -I "${DRAVELIN_QML_MODULES_DIR}" -I "${CMAKE_BINARY_DIR}/qml"
+    -I "${QT6_INSTALL_PREFIX}/${QT6_INSTALL_QML}")
 
 # dravelin_add_qml_documents(target DOCUMENTS files...): compiles the documents ahead of time and
 # places each at the resource root under its bare name, whatever folder it lies in. Defines the

@@ -1,0 +1,52 @@
+import QtQuick
+
+/// The logo on top of the palette, by which it is dragged; the arrow keys move it as well.
+MyIconButton {
+    id: root
+
+    /// The palette window.
+    required property var palette
+    required property var flyouts
+
+    readonly property int keyStep: 10
+
+    /// The palette was moved and let go.
+    signal moved()
+
+    function moveBy(dx, dy) {
+        flyouts.close();
+        palette.x += dx;
+        palette.y += dy;
+    }
+
+    function moveByKey(dx, dy) {
+        moveBy(dx * keyStep, dy * keyStep);
+        moved();
+    }
+
+    width: 50 * palette.scaleFactor
+    height: 48 * palette.scaleFactor
+    img_src: "qrc:/icons/logo.png"
+    color: "transparent"
+    isBackTransparent: true
+    isMoveStyle: true
+    accessibleName: qsTr("移动工具栏")
+
+    onPressed: mouse => {
+        palette.dragging = true;
+        palette.dragX = mouse.x;
+        palette.dragY = mouse.y;
+    }
+    onPositionChanged: mouse => {
+        if (palette.dragging)
+            moveBy(mouse.x - palette.dragX, mouse.y - palette.dragY);
+    }
+    onRelease: {
+        palette.dragging = false;
+        moved();
+    }
+    Keys.onLeftPressed: moveByKey(-1, 0)
+    Keys.onRightPressed: moveByKey(1, 0)
+    Keys.onUpPressed: moveByKey(0, -1)
+    Keys.onDownPressed: moveByKey(0, 1)
+}

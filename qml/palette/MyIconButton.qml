@@ -1,0 +1,153 @@
+import QtQuick
+import "Theme.js" as Theme
+
+/// A button with a picture: the palette's tools, its drag handle and the flyouts' picture rows.
+Rectangle {
+    id: root
+
+    property string img_src: ""
+    property string btn_txt: ""
+    property bool textVisible: false
+    /// A mark in the corner: this button has a flyout.
+    property bool showRBIcon: false
+    /// Keeps `color` as it was set instead of following the pointer.
+    property bool isBackTransparent: false
+    /// Size of the picture relative to the button.
+    property real miniSize: 1.0
+    /// True disables the button.
+    property bool enableEvent: false
+    /// Shows a hand that grabs, for dragging.
+    property bool isMoveStyle: false
+    property string toolTipText: ""
+    /// The tool that is in use wears a mark at its edge.
+    property bool active: false
+    /// Room around the button, above and below, in which it still takes the pointer.
+    property real reach: 0
+    /// Which side of the window the tool-tip appears on, and how far away.
+    property bool tipOnLeft: false
+    property real tipGap: 8
+    property string accessibleName: toolTipText
+
+    readonly property alias picture: image
+    readonly property alias hovered: mouseArea.containsMouse
+
+    signal clickedLeft()
+    signal clickedRight()
+    signal pressed(var mouse)
+    signal release(var mouse)
+    signal positionChanged(var mouse)
+    signal entered()
+    signal exited()
+
+    function setBackground(shade) {
+        if (!isBackTransparent)
+            color = shade;
+    }
+
+    function trigger() {
+        if (!enableEvent)
+            clickedLeft();
+    }
+
+    color: Theme.paper
+    activeFocusOnTab: true
+    Accessible.role: Accessible.Button
+    Accessible.name: accessibleName
+    Accessible.focusable: true
+    Accessible.onPressAction: root.trigger()
+    Keys.onSpacePressed: root.trigger()
+    Keys.onReturnPressed: root.trigger()
+    Keys.onEnterPressed: root.trigger()
+
+    SharpImage {
+        id: image
+        boxSide: Math.min(root.width, root.height) * root.miniSize
+        picture: root.img_src
+        opacity: root.enableEvent ? Theme.disabledOpacity : 1
+    }
+
+    Text {
+        anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom }
+        visible: root.textVisible
+        text: root.btn_txt
+        color: Theme.ink
+        font { bold: true; pointSize: 5 }
+    }
+
+    Image {
+        anchors { right: parent.right; bottom: parent.bottom; margins: 2 }
+        width: 8
+        height: 8
+        visible: root.showRBIcon
+        source: "qrc:/icons/morerb.png"
+        opacity: image.opacity
+    }
+
+    Rectangle {
+        anchors { left: parent.left; leftMargin: 1; verticalCenter: parent.verticalCenter }
+        width: 2
+        height: Math.round(parent.height / 2)
+        radius: 1
+        visible: root.active
+        color: Theme.accent
+    }
+
+    Rectangle {
+        anchors { fill: parent; margins: 1 }
+        visible: root.activeFocus
+        color: "transparent"
+        radius: 4
+        border { color: Theme.accent; width: 2 }
+    }
+
+    MouseArea {
+        id: mouseArea
+        anchors { fill: parent; topMargin: -root.reach; bottomMargin: -root.reach }
+        hoverEnabled: true
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        cursorShape: root.enableEvent ? Qt.ForbiddenCursor
+                   : !root.isMoveStyle ? Qt.ArrowCursor
+                   : pressed ? Qt.ClosedHandCursor : Qt.OpenHandCursor
+
+        onEntered: {
+            root.setBackground(Theme.buttonHover);
+            root.entered();
+        }
+        onExited: {
+            root.setBackground(Theme.paper);
+            root.exited();
+        }
+        onPressed: mouse => {
+            if (root.enableEvent)
+                return;
+            root.setBackground(Theme.buttonPressed);
+            root.pressed(mouse);
+        }
+        onReleased: mouse => {
+            if (root.enableEvent)
+                return;
+            root.setBackground(Theme.buttonHover);
+            root.release(mouse);
+        }
+        onPositionChanged: mouse => root.positionChanged(mouse)
+        onClicked: mouse => {
+            if (root.enableEvent)
+                return;
+            if (mouse.button === Qt.RightButton)
+                root.clickedRight();
+            else
+                root.clickedLeft();
+        }
+    }
+
+    Loader {
+        active: root.toolTipText !== "" && mouseArea.containsMouse && !mouseArea.pressed
+        sourceComponent: ButtonToolTip {
+            text: root.toolTipText
+            button: root
+            onLeft: root.tipOnLeft
+            gap: root.tipGap
+            pointerY: mouseArea.mouseY - root.reach
+        }
+    }
+}

@@ -1,0 +1,42 @@
+import QtQuick
+
+/// A button of the palette's sheet, which may open a flyout when the pointer enters it.
+MyIconButton {
+    id: root
+
+    required property real scaleFactor
+    required property var flyouts
+    /// Key of the flyout that opens on entry; empty without one.
+    property string flyout: ""
+    /// A click does something of its own instead of opening the flyout.
+    property bool actsOnClick: false
+    property bool closesFlyout: false
+
+    width: 50 * scaleFactor
+    height: 40 * scaleFactor
+    radius: 4
+    reach: Math.round(4 * scaleFactor)
+    showRBIcon: flyout !== ""
+    tipGap: flyouts.isOpen ? flyouts.popupWidth + 8 : 8
+    Accessible.description: flyout !== "" ? qsTr("按左右方向键打开选项") : ""
+
+    onEntered: {
+        if (flyout !== "")
+            flyouts.open(flyout, root);
+        else if (closesFlyout)
+            flyouts.close();
+    }
+    onClickedLeft: {
+        if (flyout !== "" && !actsOnClick)
+            flyouts.openForKeys(flyout, root);
+    }
+    Keys.onLeftPressed: openByKey()
+    Keys.onRightPressed: openByKey()
+    Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+    Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+
+    function openByKey() {
+        if (flyout !== "")
+            flyouts.openForKeys(flyout, root);
+    }
+}

@@ -1,0 +1,84 @@
+import QtQuick
+
+/// The windows behind the palette's menu, and the update notice.
+Item {
+    id: root
+
+    /// The palette window, which holds the open ones.
+    required property var palette
+    required property var settings
+
+    readonly property string helpUrl: "https://www.dravelin.example/help"
+
+    function create(document, properties) {
+        const component = Qt.createComponent(document);
+        const window = component.createObject(null, properties);
+        if (!window)
+            console.warn("创建窗口失败:", document, component.errorString());
+        return window;
+    }
+
+    function chooseMenu(index) {
+        [openAbout, openHelp, openSettings, Qt.quit][index]();
+    }
+
+    function openAbout() {
+        closeSettings();
+        closeAbout();
+        const window = create("qrc:/AboutWindow.qml",
+                              { helpUrl: helpUrl, interfaceVersion: palette.appVersion });
+        if (!window)
+            return;
+        palette.aboutWindow = window;
+        window.dismissed.connect(closeAbout);
+        window.placeBeside(palette, palette.x + (palette.rightMargin <= 400 ? -400 : 60));
+        window.show();
+    }
+
+    function closeAbout() {
+        if (palette.aboutWindow)
+            palette.aboutWindow.destroy();
+        palette.aboutWindow = null;
+    }
+
+    function openHelp() {
+        Qt.openUrlExternally(helpUrl);
+    }
+
+    function openSettings() {
+        closeAbout();
+        closeSettings();
+        const window = create("qrc:/settings.qml", {});
+        if (!window)
+            return;
+        palette.settingWindow = window;
+        window.changeHotKey.connect(palette.onHotKeyChanged);
+        window.x = palette.x + (palette.rightMargin <= 350 ? -360 : 60);
+        window.raise();
+        palette.raise();
+    }
+
+    function closeSettings() {
+        if (palette.settingWindow)
+            palette.settingWindow.destroy();
+        palette.settingWindow = null;
+    }
+
+    function openUpdate(offer) {
+        closeUpdate();
+        const window = create("qrc:/UpdateNotice.qml",
+                              { offer: offer, currentVersion: palette.appVersion });
+        if (!window)
+            return;
+        palette.updateW = window;
+        window.dismissed.connect(closeUpdate);
+        window.placeBeside(palette, palette.x + (palette.rightMargin <= 400 ? -400 : 60));
+        window.show();
+    }
+
+    function closeUpdate() {
+        if (palette.updateW)
+            palette.updateW.destroy();
+        palette.updateW = null;
+    }
+}

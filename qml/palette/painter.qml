@@ -1,0 +1,166 @@
+import QtQuick
+import QtQuick.Window
+import Cpp.MyComponents
+
+/// The tool palette: the program's main window, always on top at the edge of the screen.
+Window {
+    id: root
+
+    property real scaleFactor: 0.65
+    /// True while the overlay takes the pointer, false while it lets it through.
+    property bool drawAble: false
+    /// A plain copy of all settings.
+    property var hotKeys: ({})
+    property var drawWindow: null
+    property var selectWindow: null
+    property var settingWindow: null
+    property var aboutWindow: null
+    property var updateW: null
+    property var screenWindow: null
+    property int savedPenSize: 3
+    property int defPenSize: 2
+    property string penIcon: "qrc:/icons/pen.png"
+    property string lineIcon: "qrc:/icons/line.png"
+    property string cuxiIcon: "qrc:/icons/b.png"
+    property string cxiaoIcon: "qrc:/icons/chexiao.png"
+    property string deleteIcon: "qrc:/icons/timer.png"
+    property string repeatIcon: "qrc:/icons/re.png"
+    property string yanshiIcon: "qrc:/icons/draw.png"
+    property bool dragging: false
+    property int dragX: 0
+    property int dragY: 0
+    property int seX: 0
+    property int seY: 0
+    readonly property int rightMargin: placement.rightMargin()
+    property string appVersion: "3.2.0"
+
+    readonly property bool drawing: drawAble && drawWindow !== null
+    readonly property alias tools: tools
+    readonly property alias effects: effects
+    readonly property alias overlayLink: overlayLink
+    readonly property alias captures: captures
+    readonly property alias windows: windows
+
+    /// Keeps a click on the palette from taking the keyboard away from what the user types in.
+    /// With the pointer elsewhere the palette may be reached with the window switcher.
+    readonly property bool refusesKeyboard: !shownOnce || (pointer.hovered && !active)
+    property bool shownOnce: false
+
+    function leaveText() {
+        if (drawWindow)
+            drawWindow.textInputMode = false;
+    }
+
+    function closeF() {
+        flyouts.close();
+        leaveText();
+    }
+
+    function raiseWithFlyout() {
+        raise();
+        if (selectWindow) {
+            selectWindow.show();
+            selectWindow.raise();
+        }
+    }
+
+    function loadSettings() {
+        hotKeys = JSON.parse(JSON.stringify(settingClazz.getAllSettings()));
+        if (settingWindow)
+            settingWindow.raise();
+    }
+
+    function onHotKeyChanged() {
+        console.log("Hot key has been changed");
+        loadSettings();
+        const canvas = tools.canvas;
+        if (canvas && canvas.penOpacity < 1.0 && !canvas.isEraserMode)
+            canvas.penOpacity = 1.0;
+    }
+
+    title: qsTr("主窗口")
+    flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
+           | (refusesKeyboard ? Qt.WindowDoesNotAcceptFocus : 0)
+    color: "transparent"
+    width: 50 * scaleFactor
+    height: (sheet.isOpen ? 99 : 800) * scaleFactor
+    x: placement.startPosition(width, height).x
+    y: placement.startPosition(width, height).y
+    visible: true
+
+    onFrameSwapped: shownOnce = true
+    onVisibleChanged: {
+        if (!visible)
+            flyouts.close();
+    }
+    onClosing: Qt.quit()
+
+    Component.onCompleted: {
+        if (settingClazz.getIniValue("UPDATE", "APPVersion") !== appVersion)
+            settingClazz.setIniValue("UPDATE", "APPVersion", appVersion);
+        updates.readAddresses();
+        raise();
+        loadSettings();
+        updates.check();
+    }
+
+    SettingsClazz { id: settingClazz }
+    VideoCaptureObject { id: videoCaptureObj }
+
+    ToolController { id: tools; palette: root }
+    EffectController { id: effects; palette: root }
+    OverlayLink { id: overlayLink; palette: root }
+    PalettePlacement { id: placement; palette: root; settings: settingClazz }
+    PaletteHotkeys { palette: root; settings: settingClazz }
+    ToolNames { id: toolNames }
+    PaletteWindows {
+        id: windows
+        palette: root
+        settings: settingClazz
+    }
+    UpdateCheck {
+        id: updates
+        settings: settingClazz
+        appVersion: root.appVersion
+        onOffered: offer => windows.openUpdate(offer)
+    }
+
+    FlyoutHost { id: flyouts; palette: root; toolNames: toolNames }
+    CaptureWindows { id: captures; palette: root; videoCapture: videoCaptureObj }
+
+    HoverHandler { id: pointer }
+
+    Column {
+        spacing: Math.round(10 * root.scaleFactor)
+
+        DragHandle {
+            palette: root
+            flyouts: flyouts
+            onMoved: placement.remember()
+        }
+
+        PaletteSheet {
+            id: sheet
+            width: 50 * root.scaleFactor
+            palette: root
+            flyouts: flyouts
+            toolNames: toolNames
+        }
+    }
+
+    Timer {
+        id: reappear
+        interval: 100
+        onTriggered: root.show()
+    }
+
+    Connections {
+        target: LanguageManager
+        // Hidden and shown again, the window comes back with every text in the new language.
+        function onLanguageChanged(language) {
+            console.log("语言已更改为: ", language);
+            root.hide();
+            reappear.start();
+        }
+    }
+}

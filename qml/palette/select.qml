@@ -1,0 +1,104 @@
+import QtQuick
+import QtQuick.Window
+import "Theme.js" as Theme
+
+/// A chooser that opens beside a palette button: one row for each value. It never takes the
+/// keyboard from the window in which the user types; the palette passes keys on to it.
+Window {
+    id: root
+
+    property var customData: []
+    /// 0 rows of icon codes, 1 rows of pictures, 2 rows of text.
+    property int btnType: 1
+    /// True disables the picture rows.
+    property bool enableEvent: false
+    property real scaleFactor: 0.65
+    property int nowIdx: -1
+    /// What each row is called, in the order of `customData`.
+    property var names: []
+    /// The palette stands to the right: the arrow points there.
+    property bool pointsRight: false
+    /// Height of the button that the arrow points at, in this window.
+    property real arrowY: height / 2
+
+    readonly property int arrowSide: Math.round(20 * scaleFactor)
+    readonly property int arrowReach: Math.round(8 * scaleFactor)
+
+    signal changeSelect(int index, var value)
+
+    function choose(index) {
+        if (index < 0 || index >= customData.length || (btnType === 1 && enableEvent))
+            return;
+        nowIdx = index;
+        changeSelect(index, customData[index]);
+        destroy();
+    }
+
+    /// Moves the highlighted row by `step`, around the ends.
+    function moveRow(step) {
+        const count = customData.length;
+        nowIdx = nowIdx < 0 ? (step > 0 ? 0 : count - 1) : (nowIdx + step + count) % count;
+    }
+
+    flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint | Qt.WindowDoesNotAcceptFocus
+    color: "transparent"
+    width: Math.round(50 * scaleFactor)
+    height: Math.round(customData.length * 38 * scaleFactor + 20 * scaleFactor)
+
+    Rectangle {
+        id: panel
+        x: root.pointsRight ? 0 : root.arrowReach
+        width: root.width - root.arrowReach
+        height: root.height
+        radius: Math.round(10 * root.scaleFactor)
+        color: Theme.paper
+        border { color: Theme.hairline; width: 1 }
+    }
+
+    // The arrow is a square that stands on its tip; only the half outside the panel shows.
+    Rectangle {
+        id: arrow
+        readonly property real margin: panel.radius + root.arrowSide / 2
+        x: (root.pointsRight ? root.width - root.arrowSide / 2 : root.arrowSide / 2) - width / 2
+        y: Math.max(margin, Math.min(root.arrowY, root.height - margin)) - height / 2
+        width: root.arrowSide / Math.SQRT2
+        height: width
+        rotation: 45
+        antialiasing: true
+        color: Theme.paper
+        border { color: Theme.hairline; width: 1 }
+    }
+
+    Rectangle {
+        x: root.pointsRight ? panel.width - 1 - width : panel.x + 1
+        y: arrow.y + arrow.height / 2 - height / 2
+        width: root.arrowSide / 2
+        height: root.arrowSide
+        color: Theme.paper
+    }
+
+    Column {
+        anchors.horizontalCenter: panel.horizontalCenter
+        y: Math.round(10 * root.scaleFactor)
+        spacing: Math.round(2 * root.scaleFactor)
+
+        Repeater {
+            model: root.customData.length
+
+            FlyoutRow {
+                required property int index
+                width: Math.round(root.width * 0.8)
+                rowHeight: Math.round(35 * root.scaleFactor)
+                scaleFactor: root.scaleFactor
+                value: root.customData[index]
+                name: root.names[index] ?? String(value)
+                kind: root.btnType
+                enableEvent: root.enableEvent
+                current: index === root.nowIdx
+                last: index === root.customData.length - 1
+                tipOnLeft: root.pointsRight
+                onChosen: root.choose(index)
+            }
+        }
+    }
+}

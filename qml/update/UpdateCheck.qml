@@ -1,0 +1,46 @@
+import QtQml
+import Dravelin.Update
+import "Http.js" as Http
+
+/// Asks the update service once, at start, whether there is a newer version. The question waits
+/// for nobody: a dead or slow server only means that no offer comes.
+QtObject {
+    id: root
+
+    required property var settings
+    required property string appVersion
+
+    property string updateUrl: ""
+    /// Base address of the product's web service.
+    property string apiUrl: ""
+
+    /// The service offers a newer version; `offer` is its reply.
+    signal offered(var offer)
+
+    function readAddresses() {
+        updateUrl = settings.getIniValue("UPDATE", "UpdateURL");
+        const api = settings.getIniValue("Network", "API");
+        apiUrl = api ? api : "https://service.dravelin.example";
+    }
+
+    function check() {
+        if (!updateUrl)
+            return;
+        if (!downloader.isAllowedAddress(updateUrl)) {
+            console.warn("更新地址不安全，只允许 HTTPS:", updateUrl);
+            return;
+        }
+        Http.post(updateUrl, {
+            app: "Dravelin",
+            version: appVersion,
+            os: settings.getSysInfo()
+        }).then(reply => {
+            const offer = JSON.parse(reply.text);
+            // Redirected to a plain connection, the reply may be anybody's.
+            if (offer.push === true && (!reply.url || downloader.isAllowedAddress(reply.url)))
+                offered(offer);
+        }).catch(error => console.log("检查更新失败:", error.message));
+    }
+
+    property UpdateDownloader downloader: UpdateDownloader {}
+}

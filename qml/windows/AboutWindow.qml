@@ -1,0 +1,91 @@
+import QtQuick
+import QtQuick.Layouts
+import FluentUI
+import "Theme.js" as Theme
+
+/// What this program is: name, version, rights, the licences of what it is built on.
+PanelWindow {
+    id: root
+
+    required property string helpUrl
+    /// Version with which the program asks for updates.
+    required property string interfaceVersion
+
+    readonly property var licences: [
+        { name: "Qt 6", licence: "LGPL-3.0", link: "https://www.qt.io/licensing/open-source-lgpl-obligations" },
+        { name: "OpenSSL 3", licence: "Apache-2.0", link: "https://www.openssl.org/source/license.html" },
+        { name: "XCB", licence: "MIT", link: "https://xcb.freedesktop.org" }
+    ]
+
+    width: 380
+    height: body.implicitHeight + stripHeight + 24
+    title: qsTr("关于")
+
+    ColumnLayout {
+        id: body
+        width: parent.width
+        spacing: 6
+
+        Image {
+            Layout.alignment: Qt.AlignHCenter
+            Layout.preferredWidth: 62
+            Layout.preferredHeight: 62
+            source: "qrc:/icons/logo@3x.png"
+            mipmap: true
+        }
+
+        PanelText {
+            Layout.alignment: Qt.AlignHCenter
+            Layout.topMargin: 8
+            text: AppDescription
+            font { pixelSize: Theme.titleText; weight: Font.DemiBold }
+        }
+
+        PanelText {
+            Layout.alignment: Qt.AlignHCenter
+            text: qsTr("版本 %1 · 界面 %2").arg(AppVersion).arg(root.interfaceVersion)
+            color: Theme.inkMuted
+        }
+
+        PanelText {
+            Layout.fillWidth: true
+            Layout.topMargin: 10
+            horizontalAlignment: Text.AlignHCenter
+            text: AppCopyright
+            color: Theme.inkMuted
+            font.pixelSize: 12
+        }
+
+        Rectangle {
+            Layout.fillWidth: true
+            Layout.topMargin: 12
+            Layout.bottomMargin: 6
+            implicitHeight: 1
+            color: Theme.hairline
+        }
+
+        PanelText {
+            text: qsTr("第三方组件及许可")
+            font.weight: Font.DemiBold
+        }
+
+        Repeater {
+            model: root.licences
+
+            LinkRow {
+                required property var modelData
+                Layout.fillWidth: true
+                text: modelData.name
+                note: modelData.licence
+                link: modelData.link
+            }
+        }
+
+        FluButton {
+            Layout.alignment: Qt.AlignHCenter
+            Layout.topMargin: 14
+            text: qsTr("帮助")
+            onClicked: Qt.openUrlExternally(root.helpUrl)
+        }
+    }
+}
