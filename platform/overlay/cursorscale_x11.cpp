@@ -1,0 +1,6 @@
+#include "platform/overlay/cursorscale.h"
+
+qreal cursorHotSpotScale(qreal devicePixelRatio)
+{
+    return devicePixelRatio;
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+
+class QRegion;
+class QWindow;
+
+/// What the drawing overlay asks of the desktop and Qt does not offer. One object per overlay.
+/// The base class is the backend of a desktop that needs none of it: every window is composited,
+/// and Qt's own means are enough.
+class OverlayBackend : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The backend for the windowing system that the program runs on. `window` must outlive it.
+    static std::unique_ptr<OverlayBackend> create(QWindow *window);
+
+    /// Tells the desktop what kind of window this is. The native window must exist; best called
+    /// before it is first shown.
+    virtual void prepareWindow() { }
+    /// Lets every click, wheel step and touch through to what lies beneath, or takes them back,
+    /// without unmapping the window. Takes effect at once.
+    virtual void setInputTransparent(bool transparent);
+    /// Gives the keyboard to the overlay.
+    virtual void takeFocus();
+    /// Gives the keyboard back to the window that had it before, or to the topmost one beneath, and
+    /// keeps the desktop from handing it to the overlay.
+    virtual void returnFocus() { }
+    /// Keeps another window of this program above the overlay, whichever of them is raised.
+    virtual void keepAbove(QWindow *other) { Q_UNUSED(other) }
+    /// Whether transparent windows show what is beneath them.
+    [[nodiscard]] virtual bool isComposited() const { return true; }
+
+signals:
+    void compositedChanged();
+
+protected:
+    explicit OverlayBackend(QWindow *window) : m_window(window) { }
+    [[nodiscard]] QWindow *window() const { return m_window; }
+
+private:
+    /// The platform's own backend, or null when it has none for what the program runs on.
+    static std::unique_ptr<OverlayBackend> createNative(QWindow *window);
+
+    QWindow *m_window;
+};

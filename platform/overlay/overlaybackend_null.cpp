@@ -1,0 +1,6 @@
+#include "platform/overlay/overlaybackend.h"
+
+std::unique_ptr<OverlayBackend> OverlayBackend::createNative(QWindow *)
+{
+    return nullptr;
+}

@@ -1,0 +1,161 @@
+#include "platform/overlay/overlaybackend.h"
+#include "platform/overlay/x11connection.h"
+#include "platform/overlay/x11focus.h"
+
+#include <QAbstractNativeEventFilter>
+#include <QGuiApplication>
+#include <QWindow>
+
+#include <xcb/shape.h>
+#include <xcb/xfixes.h>
+
+namespace
+{
+constexpr quint32 kNeverBypass = 2; // _NET_WM_BYPASS_COMPOSITOR: never take this window out
+
+class X11OverlayBackend : public OverlayBackend, public QAbstractNativeEventFilter
+{
+public:
+    X11OverlayBackend(QWindow *window, X11Connection x11);
+    ~X11OverlayBackend() override;
+    Q_DISABLE_COPY_MOVE(X11OverlayBackend)
+
+    void prepareWindow() override;
+    void setInputTransparent(bool transparent) override;
+    void takeFocus() override;
+    void returnFocus() override;
+    void keepAbove(QWindow *other) override;
+    bool isComposited() const override { return m_composited; }
+
+    bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
+
+private:
+    void watchCompositor();
+    void noteCompositor(bool present);
+    [[nodiscard]] bool hasCompositor() const;
+    [[nodiscard]] xcb_window_t id() const { return static_cast<xcb_window_t>(window()->winId()); }
+
+    X11Connection m_x11;
+    X11Focus m_focus;
+    xcb_atom_t m_compositorSelection;
+    uint8_t m_selectionEvent = 0; ///< 0, an error's number, while there is nothing to watch
+    bool m_composited;
+};
+
+X11OverlayBackend::X11OverlayBackend(QWindow *window, X11Connection x11)
+    : OverlayBackend(window), m_x11(x11), m_focus(x11),
+      m_compositorSelection(x11.atom("_NET_WM_CM_S" + QByteArray::number(x11.screenNumber()))),
+      m_composited(hasCompositor())
+{
+    watchCompositor();
+    qGuiApp->installNativeEventFilter(this);
+}
+
+X11OverlayBackend::~X11OverlayBackend()
+{
+    if (qGuiApp)
+        qGuiApp->removeNativeEventFilter(this);
+}
+
+void X11OverlayBackend::watchCompositor()
+{
+    const auto *xfixes = xcb_get_extension_data(m_x11.get(), &xcb_xfixes_id);
+    if (!xfixes || !xfixes->present)
+        return;
+    m_selectionEvent = static_cast<uint8_t>(xfixes->first_event + XCB_XFIXES_SELECTION_NOTIFY);
+    xcb_xfixes_select_selection_input(m_x11.get(), m_x11.root(), m_compositorSelection,
+        XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER
+            | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY
+            | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
+}
+
+bool X11OverlayBackend::hasCompositor() const
+{
+    const auto cookie = xcb_get_selection_owner(m_x11.get(), m_compositorSelection);
+    const XcbPtr<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(m_x11.get(), cookie, nullptr));
+    return reply && reply->owner != XCB_WINDOW_NONE;
+}
+
+bool X11OverlayBackend::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)
+{
+    if (eventType != "xcb_generic_event_t")
+        return false;
+    const auto *event = static_cast<const xcb_generic_event_t *>(message);
+    const auto type = static_cast<uint8_t>(event->response_type & 0x7f);
+    if (type == XCB_PROPERTY_NOTIFY) {
+        const auto *change = static_cast<const xcb_property_notify_event_t *>(message);
+        if (change->window == m_x11.root())
+            m_focus.noteRootProperty(change->atom);
+    } else if (type == m_selectionEvent) {
+        const auto *change = static_cast<const xcb_xfixes_selection_notify_event_t *>(message);
+        if (change->selection == m_compositorSelection)
+            noteCompositor(change->owner != XCB_WINDOW_NONE);
+    }
+    return false;
+}
+
+void X11OverlayBackend::noteCompositor(bool present)
+{
+    if (present == m_composited)
+        return;
+    m_composited = present;
+    emit compositedChanged();
+}
+
+void X11OverlayBackend::prepareWindow()
+{
+    m_x11.setProperty(
+        id(), m_x11.atom("_NET_WM_BYPASS_COMPOSITOR"), XCB_ATOM_CARDINAL, { kNeverBypass });
+    // No task of its own: neither in the task bar nor among the windows to switch to.
+    const auto state = m_x11.atom("_NET_WM_STATE");
+    auto states = m_x11.property(id(), state);
+    for (const char *name : { "_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER" }) {
+        if (const auto atom = m_x11.atom(name); !states.contains(atom))
+            states.append(atom);
+    }
+    m_x11.setProperty(id(), state, XCB_ATOM_ATOM, states);
+}
+
+void X11OverlayBackend::setInputTransparent(bool transparent)
+{
+    // An empty input shape lets everything through; no shape at all follows the window's size.
+    if (transparent) {
+        xcb_shape_rectangles(m_x11.get(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT,
+            XCB_CLIP_ORDERING_UNSORTED, id(), 0, 0, 0, nullptr);
+    } else {
+        xcb_shape_mask(m_x11.get(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, id(), 0, 0, XCB_NONE);
+    }
+    m_x11.flush();
+}
+
+void X11OverlayBackend::takeFocus()
+{
+    m_focus.setAccepted(id(), true);
+    window()->requestActivate(); // remembered by Qt while the window is not mapped yet
+    m_focus.activate(id());
+}
+
+void X11OverlayBackend::returnFocus()
+{
+    m_focus.setAccepted(id(), false);
+    m_focus.giveBack();
+}
+
+void X11OverlayBackend::keepAbove(QWindow *other)
+{
+    // Every window manager stacks a transient window above the one that it belongs to, also above
+    // one that is full-screen, where raising alone is not enough.
+    m_x11.setProperty(static_cast<xcb_window_t>(other->winId()), XCB_ATOM_WM_TRANSIENT_FOR,
+        XCB_ATOM_WINDOW, { id() });
+    m_x11.flush();
+}
+} // namespace
+
+std::unique_ptr<OverlayBackend> OverlayBackend::createNative(QWindow *window)
+{
+    const auto x11 = X11Connection::current();
+    if (!x11.isValid())
+        return nullptr;
+    return std::make_unique<X11OverlayBackend>(window, x11);
+}

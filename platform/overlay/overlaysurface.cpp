@@ -1,0 +1,172 @@
+#include "platform/overlay/overlaysurface.h"
+
+#include "platform/overlay/overlaybackend.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QScreen>
+
+OverlaySurface::OverlaySurface(QObject *parent) : QObject(parent)
+{
+    qGuiApp->installEventFilter(this);
+}
+
+OverlaySurface::~OverlaySurface() = default;
+
+void OverlaySurface::setWindow(QWindow *window)
+{
+    if (window == m_window || m_window)
+        return;
+    m_window = window;
+    m_backend = OverlayBackend::create(window);
+    connect(m_backend.get(), &OverlayBackend::compositedChanged, this,
+        &OverlaySurface::compositedChanged);
+    watchScreens();
+    emit windowChanged();
+    emit compositedChanged();
+}
+
+void OverlaySurface::setAnchor(QWindow *anchor)
+{
+    if (anchor == m_anchor)
+        return;
+    m_anchor = anchor;
+    emit anchorChanged();
+}
+
+bool OverlaySurface::isComposited() const
+{
+    return !m_backend || m_backend->isComposited();
+}
+
+void OverlaySurface::watchScreens()
+{
+    const auto watch = [this](QScreen *screen) {
+        connect(screen, &QScreen::geometryChanged, this, &OverlaySurface::coverAgain);
+    };
+    for (QScreen *screen : QGuiApplication::screens())
+        watch(screen);
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, watch);
+    // Queued: by then Qt has moved the windows of the removed screen elsewhere.
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &OverlaySurface::coverAgain,
+        Qt::QueuedConnection);
+}
+
+QScreen *OverlaySurface::screenToCover() const
+{
+    if (m_anchor && m_anchor->screen())
+        return m_anchor->screen();
+    QScreen *underPointer = QGuiApplication::screenAt(QCursor::pos());
+    return underPointer ? underPointer : QGuiApplication::primaryScreen();
+}
+
+void OverlaySurface::cover()
+{
+    if (!m_window)
+        return;
+    QScreen *screen = screenToCover();
+    if (!m_window->handle()) {
+        m_window->create();
+        m_backend->prepareWindow();
+    }
+    if (m_window->screen() != screen || m_window->geometry() != screen->geometry()) {
+        // A full-screen window stays on its monitor, so it has to stop being one for the move.
+        if (m_window->isVisible())
+            m_window->showNormal();
+        m_window->setScreen(screen);
+        m_window->setGeometry(screen->geometry());
+    }
+    m_window->showFullScreen();
+    m_covering = true;
+    if (!m_passThrough)
+        m_backend->takeFocus();
+}
+
+void OverlaySurface::coverAgain()
+{
+    if (!m_covering || !m_window)
+        return;
+    const QScreen *screen = m_window->screen();
+    if (!QGuiApplication::screens().contains(screen))
+        screen = screenToCover();
+    if (m_window->geometry() != screen->geometry())
+        m_window->setGeometry(screen->geometry());
+}
+
+void OverlaySurface::setPassThrough(bool passThrough)
+{
+    if (passThrough == m_passThrough)
+        return;
+    m_passThrough = passThrough;
+    if (!m_passThrough || !m_buttonDown)
+        applyPassThrough();
+    emit passThroughChanged();
+}
+
+void OverlaySurface::applyPassThrough()
+{
+    if (!m_backend || !m_window->handle() || m_applied == m_passThrough)
+        return;
+    m_applied = m_passThrough;
+    m_backend->setInputTransparent(m_passThrough);
+    if (m_passThrough)
+        m_backend->returnFocus();
+    else
+        m_backend->takeFocus();
+}
+
+bool OverlaySurface::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!watched->isWindowType() || !m_window)
+        return false;
+    if (watched == m_window)
+        followPointer(event);
+    else if (event->type() == QEvent::Expose)
+        stackOther(static_cast<QWindow *>(watched), static_cast<QWindow *>(watched)->isExposed());
+    return false;
+}
+
+void OverlaySurface::followPointer(const QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease: {
+        const auto *mouse = static_cast<const QMouseEvent *>(event);
+        m_buttonDown = mouse->buttons() != Qt::NoButton;
+        if (event->type() == QEvent::MouseButtonPress)
+            setEraserTip(mouse->pointerType() == QPointingDevice::PointerType::Eraser);
+        break;
+    }
+    case QEvent::Enter: // the pointer was elsewhere, so no gesture of the overlay's is under way
+        m_buttonDown = false;
+        break;
+    default:
+        return;
+    }
+    if (m_passThrough && !m_buttonDown)
+        applyPassThrough();
+}
+
+void OverlaySurface::setEraserTip(bool eraserTip)
+{
+    if (eraserTip == m_eraserTip)
+        return;
+    m_eraserTip = eraserTip;
+    emit eraserTipChanged();
+}
+
+void OverlaySurface::stackOther(QWindow *other, bool exposed)
+{
+    if (!exposed) { // hidden: showing it again forgets where it belongs
+        m_stackedAbove.removeOne(other);
+        return;
+    }
+    const bool floats = other->type() == Qt::Popup || other->type() == Qt::ToolTip;
+    if (!m_covering || other->parent() || floats || m_stackedAbove.contains(other))
+        return;
+    m_stackedAbove.append(other);
+    m_backend->keepAbove(other);
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QQmlEngine>
+#include <QWindow>
+
+#include <memory>
+
+class OverlayBackend;
+class QScreen;
+
+/// The drawing overlay as a window of the desktop: which monitor it covers, whether the pointer
+/// goes through it, who has the keyboard, and what stays above it. Everything is in place without
+/// unmapping the window, so nothing flickers.
+class OverlaySurface : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    /// The overlay's own window; set once.
+    Q_PROPERTY(QWindow *window READ window WRITE setWindow NOTIFY windowChanged FINAL)
+    /// The window whose monitor is covered; without one it is the monitor under the pointer.
+    Q_PROPERTY(QWindow *anchor READ anchor WRITE setAnchor NOTIFY anchorChanged FINAL)
+    /// Whether clicks and keys go to what lies beneath. While a button is held down on the overlay
+    /// the gesture is finished first: the desktop would see its release without the press.
+    Q_PROPERTY(
+        bool passThrough READ passThrough WRITE setPassThrough NOTIFY passThroughChanged FINAL)
+    /// Whether transparent windows show what is beneath them.
+    Q_PROPERTY(bool composited READ isComposited NOTIFY compositedChanged FINAL)
+
+    /// Whether the gesture under way, or the last one, is made with the eraser end of a tablet pen.
+    Q_PROPERTY(bool eraserTip READ eraserTip NOTIFY eraserTipChanged FINAL)
+
+public:
+    explicit OverlaySurface(QObject *parent = nullptr);
+    ~OverlaySurface() override;
+
+    [[nodiscard]] QWindow *window() const { return m_window; }
+    void setWindow(QWindow *window);
+    [[nodiscard]] QWindow *anchor() const { return m_anchor; }
+    void setAnchor(QWindow *anchor);
+    [[nodiscard]] bool passThrough() const { return m_passThrough; }
+    void setPassThrough(bool passThrough);
+    [[nodiscard]] bool isComposited() const;
+    [[nodiscard]] bool eraserTip() const { return m_eraserTip; }
+
+    /// Shows the window over the whole monitor of the anchor, panels included.
+    Q_INVOKABLE void cover();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+signals:
+    void windowChanged();
+    void anchorChanged();
+    void passThroughChanged();
+    void compositedChanged();
+    void eraserTipChanged();
+
+private:
+    void watchScreens();
+    void coverAgain();
+    [[nodiscard]] QScreen *screenToCover() const;
+    void followPointer(const QEvent *event);
+    void setEraserTip(bool eraserTip);
+    void stackOther(QWindow *other, bool exposed);
+    void applyPassThrough();
+
+    QPointer<QWindow> m_window;
+    QPointer<QWindow> m_anchor;
+    std::unique_ptr<OverlayBackend> m_backend;
+    QList<const QObject *> m_stackedAbove; ///< compared only, never dereferenced
+    bool m_passThrough = false;
+    bool m_applied = false; ///< what the window's input shape is now
+    bool m_covering = false;
+    bool m_buttonDown = false; ///< on the overlay's window
+    bool m_eraserTip = false;
+};

@@ -1,0 +1,58 @@
+import QtQuick
+
+// The pointer on a text editor: places the caret, selects, drags the editor about, resizes its font.
+MouseArea {
+    id: root
+
+    required property TextEditBox box
+    required property TextEdit edit
+    property point pressPos
+    property bool mayDrag: false
+    property bool dragging: false
+
+    function onBorderStrip(mouse): bool {
+        const margin = root.box.textMargin;
+        return mouse.x < margin || mouse.y < margin || mouse.x > root.width - margin
+            || mouse.y > root.height - margin;
+    }
+
+    function caretAt(mouse): int {
+        return root.edit.positionAt(mouse.x - root.edit.x, mouse.y - root.edit.y);
+    }
+
+    preventStealing: true
+    cursorShape: root.dragging ? Qt.ClosedHandCursor : Qt.IBeamCursor
+
+    onPressed: mouse => {
+        root.pressPos = Qt.point(mouse.x, mouse.y);
+        root.mayDrag = !root.box.showText || root.onBorderStrip(mouse);
+        root.dragging = false;
+        Qt.inputMethod.commit();
+        root.box.takeFocus();
+        root.edit.cursorPosition = root.caretAt(mouse);
+    }
+
+    onPositionChanged: mouse => {
+        const dx = mouse.x - root.pressPos.x;
+        const dy = mouse.y - root.pressPos.y;
+        root.dragging = root.dragging || (root.mayDrag && Math.max(Math.abs(dx), Math.abs(dy)) > 5);
+        if (root.dragging) {
+            root.box.x = Math.max(0, root.box.x + dx);
+            root.box.y = Math.max(0, root.box.y + dy);
+        } else if (!root.mayDrag) {
+            root.edit.moveCursorSelection(root.caretAt(mouse));
+        }
+    }
+
+    onReleased: root.dragging = false
+
+    onDoubleClicked: root.box.completed()
+
+    onWheel: wheel => {
+        wheel.accepted = (wheel.modifiers & Qt.ControlModifier) !== 0;
+        if (!wheel.accepted)
+            return;
+        const step = Math.sign(wheel.angleDelta.y);
+        root.edit.font.pixelSize = Math.max(8, Math.min(72, root.edit.font.pixelSize + step));
+    }
+}
