@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QByteArray>
+#include <QLatin1StringView>
+#include <QString>
+
+/// Why an encoder ended badly, as far as its own words tell.
+struct EncoderFailure {
+    QLatin1StringView code; ///< one of RecorderProtocol::Code
+    QString text;
+
+    /// `words` is what FFmpeg wrote to standard error.
+    static EncoderFailure fromWords(const QByteArray &words, const QString &outputPath);
+    /// It had to be killed, as it did not finish in time.
+    static EncoderFailure hung(const QString &outputPath);
+    /// Whether the words tell of a full disk, which FFmpeg does not always end with.
+    static bool tellsFullDisk(const QByteArray &words);
+};

@@ -1,0 +1,143 @@
+#include "recorder/recording.h"
+
+#include "recorder/capturearea.h"
+#include "recorder/childcontrol.h"
+#include "recorder/desktop.h"
+#include "recorder/ffmpegcommand.h"
+#include "recorder/notes.h"
+#include "recorder/recorderprotocol.h"
+
+#include <QDateTime>
+#include <QStandardPaths>
+
+using namespace RecorderProtocol;
+
+namespace
+{
+
+/// Less than the program that started the recorder waits before it kills it.
+constexpr int kFinishTimeoutMs = 3000;
+/// Lets FFmpeg take in the last sound, as it drops what waits when it is told to end.
+constexpr int kSoundTailMs = 150;
+/// What FFmpeg ends with after a terminate signal.
+constexpr int kTerminatedExitCode = 255;
+
+} // namespace
+
+Recording::Recording(QObject *parent) : QObject(parent)
+{
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(kFinishTimeoutMs);
+    connect(&m_patience, &QTimer::timeout, this, &Recording::giveUp);
+    connect(&m_encoder, &QProcess::errorOccurred, this, &Recording::onEncoderError);
+    connect(&m_encoder, &QProcess::finished, this, &Recording::onEncoderFinished);
+}
+
+bool Recording::start(const RecordingRequest &request)
+{
+    const std::optional<Desktop> desktop = Desktop::current();
+    if (!desktop) {
+        Notes::error(Code::kNoScreen, QStringLiteral("There is no screen that can be recorded."));
+        return false;
+    }
+    const QRect areaPx = encodableArea(request.areaPx, desktop->areaPx);
+    if (areaPx.isEmpty()) {
+        Notes::error(Code::kRegionTooSmall,
+            QStringLiteral("The region holds no two by two pixels of the screen."));
+        return false;
+    }
+    if (QStandardPaths::findExecutable(QStringLiteral("ffmpeg")).isEmpty()) {
+        Notes::error(
+            Code::kNoEncoder, QStringLiteral("FFmpeg is not installed, or not found on the PATH."));
+        return false;
+    }
+    QString reason;
+    if (!m_file.reserve(request.output, QDateTime::currentDateTime(), &reason)) {
+        Notes::error(
+            Code::kCannotWrite, QStringLiteral("The video cannot be written: %1.").arg(reason));
+        return false;
+    }
+    return launch(*desktop, request, areaPx);
+}
+
+bool Recording::launch(const Desktop &desktop, const RecordingRequest &request, const QRect &areaPx)
+{
+    m_sound = SoundCapture::open(request.microphone, request.systemSound);
+    FfmpegCommand command;
+    command.grabber = desktop.grabber;
+    command.display = desktop.display;
+    command.areaPx = areaPx;
+    command.outputPath = m_file.path();
+    if (m_sound) {
+        command.sound = m_sound->inputs();
+        m_sound->begin(&m_encoder);
+    }
+    command.epochSeconds = static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0;
+    ChildControl::prepare(&m_encoder);
+    m_encoder.start(QStringLiteral("ffmpeg"), command.arguments());
+    if (!m_encoder.waitForStarted())
+        return false;
+    ChildControl::adopt(&m_encoder);
+    Notes::file(m_file.path());
+    return true;
+}
+
+void Recording::stop()
+{
+    if (m_stopRequested)
+        return;
+    m_stopRequested = true;
+    if (m_sound)
+        m_sound->end();
+    QTimer::singleShot(m_sound ? kSoundTailMs : 0, this, &Recording::endEncoder);
+}
+
+void Recording::endEncoder()
+{
+    ChildControl::requestEnd(&m_encoder);
+    m_patience.start();
+}
+
+void Recording::giveUp()
+{
+    m_gaveUp = true;
+    m_encoder.kill();
+}
+
+void Recording::onEncoderError(QProcess::ProcessError error)
+{
+    if (error != QProcess::FailedToStart)
+        return;
+    m_file.discardIfEmpty();
+    Notes::error(Code::kNoEncoder,
+        QStringLiteral("FFmpeg cannot be started: %1.").arg(m_encoder.errorString()));
+}
+
+void Recording::onEncoderFinished(int exitCode, QProcess::ExitStatus status)
+{
+    m_patience.stop();
+    if (m_sound)
+        m_sound->end();
+    const QByteArray words = m_encoder.readAllStandardError();
+    const bool endedWell = status == QProcess::NormalExit
+        && (exitCode == 0 || exitCode == kTerminatedExitCode)
+        && !EncoderFailure::tellsFullDisk(words);
+    const bool succeeded = m_stopRequested && endedWell && !m_file.isEmpty();
+    if (!succeeded) {
+        const EncoderFailure failure = failureOf(words);
+        Notes::error(failure.code, failure.text);
+    }
+    m_file.discardIfEmpty();
+    emit finished(succeeded);
+}
+
+EncoderFailure Recording::failureOf(const QByteArray &words) const
+{
+    if (m_gaveUp)
+        return EncoderFailure::hung(m_file.path());
+    // A request that comes this early can hit FFmpeg before it knows how to answer.
+    if (m_stopRequested && words.isEmpty() && m_file.isEmpty())
+        return { Code::kNothingRecorded,
+            QStringLiteral("The recording was stopped before it had begun.") };
+    return EncoderFailure::fromWords(words, m_file.path());
+}
