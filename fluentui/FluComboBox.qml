@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import FluentUI
 
 T.ComboBox {
     id: root
@@ -57,7 +58,7 @@ T.ComboBox {
         font: root.font
         color: root.contentColor
         selectionColor: FluTheme.primaryColor
-        selectedTextColor: FluTheme.onPrimaryColor
+        selectedTextColor: FluTheme.accentTextColor
         renderType: Text.QtRendering
         verticalAlignment: TextInput.AlignVCenter
         clip: true

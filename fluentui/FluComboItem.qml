@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import FluentUI
 
 /// A row of a combo box's list; the chosen one bears a mark in the accent colour.
 T.ItemDelegate {

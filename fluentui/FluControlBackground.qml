@@ -17,6 +17,6 @@ Rectangle {
         width: root.width - 2 * root.radius
         height: 1
         visible: root.raised
-        color: FluTheme.strokeBottomColor
+        color: FluTheme.dark ? Qt.lighter(root.strokeColor, 1.2) : Qt.darker(root.strokeColor, 1.15)
     }
 }

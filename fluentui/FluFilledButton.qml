@@ -1,4 +1,5 @@
 import QtQuick
+import FluentUI
 
 /// The button that does what a dialog is for.
 FluButton {
@@ -7,6 +8,6 @@ FluButton {
     normalColor: down ? Qt.lighter(FluTheme.primaryColor, 1.2) : FluTheme.primaryColor
     hoverColor: Qt.lighter(FluTheme.primaryColor, 1.1)
     dividerColor: "transparent"
-    textColor: FluTheme.onPrimaryColor
+    textColor: FluTheme.accentTextColor
     font: FluTextStyle.BodyStrong
 }

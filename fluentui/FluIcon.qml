@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.impl
+import FluentUI
 
 /// The drawing of an icon in one colour; it takes its space even when there is none.
 ColorImage {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import FluentUI
 
 T.Button {
     id: root
@@ -59,7 +60,7 @@ T.Button {
 
             anchors.centerIn: parent
             spacing: root.spacing
-            columns: root.display === T.AbstractButton.TextUnderIcon ? 1 : 2
+            columns: root.display === T.AbstractButton.TextBesideIcon ? 2 : 1
             horizontalItemAlignment: Grid.AlignHCenter
             verticalItemAlignment: Grid.AlignVCenter
 

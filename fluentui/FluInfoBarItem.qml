@@ -1,4 +1,5 @@
 import QtQuick
+import FluentUI
 
 /// One message. It closes by itself after `duration` ms, or by its button when that is not positive.
 Rectangle {
@@ -12,6 +13,9 @@ Rectangle {
     property bool isOpen: true
 
     signal closed
+
+    /// Texts wrap here, or earlier in a narrow window.
+    property real textWidth: 300
 
     readonly property bool lasting: duration <= 0
     readonly property var look: looks[type] ?? looks.info
@@ -65,7 +69,7 @@ Rectangle {
 
         x: root.customComponent ? 0 : 15
         y: root.customComponent ? 0 : 10
-        sourceComponent: root.customComponent ?? message
+        sourceComponent: root.customComponent ? root.customComponent : message
     }
 
     Component {
@@ -75,35 +79,53 @@ Rectangle {
             spacing: 10
 
             FluIcon {
+                id: icon
+
                 iconSource: root.look.icon
                 color: root.shade(root.look.mark)
             }
             Column {
+                topPadding: Math.round((icon.height - firstLine.height) / 2)
+                bottomPadding: topPadding
                 spacing: 4
 
                 FluText {
-                    width: Math.min(implicitWidth, 300)
+                    width: Math.min(implicitWidth, root.textWidth)
                     text: root.text
                     wrapMode: Text.Wrap
                 }
                 FluText {
-                    width: Math.min(implicitWidth, 300)
+                    width: Math.min(implicitWidth, root.textWidth)
                     visible: text !== ""
                     text: root.moremsg
                     textColor: FluTheme.secondaryTextColor
                     wrapMode: Text.Wrap
                 }
             }
-            FluIconButton {
+            Item {
                 visible: root.lasting
-                width: 24
-                height: 24
-                padding: 0
-                iconSource: FluentIcons.ChromeClose
-                iconSize: 12
-                contentDescription: qsTr("Close")
-                onClicked: root.close()
+                width: closer.width
+                height: icon.height
+
+                FluIconButton {
+                    id: closer
+
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: 26
+                    height: 26
+                    padding: 0
+                    iconSource: FluentIcons.ChromeClose
+                    iconSize: 10
+                    contentDescription: qsTr("Close")
+                    onClicked: root.close()
+                }
             }
         }
+    }
+
+    FontMetrics {
+        id: firstLine
+
+        font: FluTextStyle.Body
     }
 }

@@ -23,6 +23,7 @@ Column {
     readonly property Component barComponent: Component {
         FluInfoBarItem {
             x: Math.round((root.width - width) / 2)
+            textWidth: Math.min(300, root.parent.width - 120)
             onClosed: {
                 destroy();
                 if (!root.newest())

@@ -1,4 +1,5 @@
 import QtQuick
+import FluentUI
 
 /// A row of caps in the accent colour, one for each key.
 Row {
@@ -27,7 +28,7 @@ Row {
                 anchors.centerIn: parent
                 text: parent.modelData
                 font: root.font
-                color: FluTheme.onPrimaryColor
+                color: FluTheme.accentTextColor
             }
         }
     }

@@ -1,13 +1,22 @@
 import QtQuick
 import QtQuick.Templates as T
+import FluentUI
 
 /// Captures a key combination for a shortcut picker. It is left by its buttons only.
 T.Popup {
     id: root
 
-    required property FluShortcutPicker picker
+    required property string title
+    required property string message
+    required property string positiveText
+    required property string neutralText
+    required property string negativeText
+    /// The keys that the dialog opens with and that resetting shows again.
+    required property var current
 
-    property var keys: picker.current
+    property var keys: current
+
+    signal saved(var keys)
 
     parent: T.Overlay.overlay
     x: Math.round((parent.width - width) / 2)
@@ -19,7 +28,7 @@ T.Popup {
     closePolicy: T.Popup.NoAutoClose
 
     Accessible.role: Accessible.Dialog
-    Accessible.name: picker.title
+    Accessible.name: title
 
     onOpened: capture.forceActiveFocus()
 
@@ -50,13 +59,13 @@ T.Popup {
 
                 FluText {
                     width: parent.width - 40
-                    text: root.picker.title
+                    text: root.title
                     font: Qt.font({ family: FluTextStyle.Title.family, pixelSize: 20, weight: Font.DemiBold })
                     wrapMode: Text.Wrap
                 }
                 FluText {
                     width: parent.width - 40
-                    text: root.picker.message
+                    text: root.message
                     textColor: FluTheme.secondaryTextColor
                     wrapMode: Text.Wrap
                 }
@@ -79,19 +88,19 @@ T.Popup {
 
                 FluButton {
                     width: parent.buttonWidth
-                    text: root.picker.neutralText
+                    text: root.neutralText
                     onClicked: root.close()
                 }
                 FluButton {
                     width: parent.buttonWidth
-                    text: root.picker.negativeText
-                    onClicked: root.keys = root.picker.current
+                    text: root.negativeText
+                    onClicked: root.keys = root.current
                 }
                 FluFilledButton {
                     width: parent.buttonWidth
-                    text: root.picker.positiveText
+                    text: root.positiveText
                     onClicked: {
-                        root.picker.accept(root.keys);
+                        root.saved(root.keys);
                         root.close();
                     }
                 }

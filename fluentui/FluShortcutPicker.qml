@@ -1,4 +1,5 @@
 import QtQuick
+import FluentUI
 
 /// Shows a key combination and lets the user press another one in a dialog.
 FluIconButton {
@@ -40,27 +41,35 @@ FluIconButton {
     onSyncHotkeyChanged: followHotkey()
     onClicked: dialog.active = true
 
-    contentItem: Row {
-        spacing: 10
+    contentItem: Item {
+        implicitWidth: label.width + label.gap + box.width + conflict.gap + conflict.width
+        implicitHeight: 42
 
         FluText {
+            id: label
+
+            readonly property int gap: text === "" ? 0 : 10
+
             anchors.verticalCenter: parent.verticalCenter
-            visible: root.text !== ""
             text: root.text
             font: root.font
             textColor: root.textColor
         }
+        // In a picker wider than it needs to be, labels stand at the left and boxes at the right.
         FluControlBackground {
+            id: box
+
             anchors.verticalCenter: parent.verticalCenter
+            x: parent.width - conflict.width - conflict.gap - width
             width: keys.width + 20
-            height: Math.min(42, root.availableHeight)
-            color: FluTheme.fieldColor
+            height: Math.min(42, parent.height)
+            color: root.hovered ? FluTheme.fieldHoverColor : FluTheme.fieldColor
 
             Row {
                 id: keys
 
                 anchors.centerIn: parent
-                spacing: 5
+                spacing: 8
 
                 FluKeyCaps {
                     anchors.verticalCenter: parent.verticalCenter
@@ -69,7 +78,7 @@ FluIconButton {
                 FluIcon {
                     anchors.verticalCenter: parent.verticalCenter
                     iconSource: FluentIcons.EditMirrored
-                    iconSize: 14
+                    iconSize: 15
                     color: root.iconColor
                 }
             }
@@ -77,7 +86,11 @@ FluIconButton {
         FluText {
             id: conflict
 
+            readonly property int gap: visible ? 10 : 0
+
             anchors.verticalCenter: parent.verticalCenter
+            x: parent.width - width
+            width: visible ? implicitWidth : 0
             visible: !root.registered
             text: qsTr("Conflict")
             textColor: root.errorColor
@@ -89,8 +102,14 @@ FluIconButton {
 
         active: false
         sourceComponent: FluShortcutDialog {
-            picker: root
+            title: root.title
+            message: root.message
+            positiveText: root.positiveText
+            neutralText: root.neutralText
+            negativeText: root.negativeText
+            current: root.current
             visible: true
+            onSaved: keys => root.accept(keys)
             onClosed: dialog.active = false
         }
     }

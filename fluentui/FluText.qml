@@ -1,4 +1,5 @@
 import QtQuick
+import FluentUI
 
 Text {
     id: root

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import FluentUI
 
 T.TextField {
     id: root
@@ -37,7 +38,7 @@ T.TextField {
         return activeFocus ? placeholderFocusColor : placeholderNormalColor;
     }
     selectionColor: FluTheme.primaryColor
-    selectedTextColor: FluTheme.onPrimaryColor
+    selectedTextColor: FluTheme.accentTextColor
     selectByMouse: true
     renderType: Text.QtRendering
     verticalAlignment: TextInput.AlignVCenter

@@ -13,12 +13,11 @@ QtObject {
     property color fontPrimaryColor: dark ? "#F8F8F8" : "#070707"
 
     /// Text on a surface of primaryColor.
-    readonly property color onPrimaryColor: dark ? "#000000" : "#FFFFFF"
+    readonly property color accentTextColor: dark ? "#000000" : "#FFFFFF"
     readonly property color secondaryTextColor: dark ? "#D2D2D2" : "#606060"
     readonly property color focusColor: dark ? "#FFFFFF" : "#000000"
-    /// The outline of controls, its stronger lower edge, and of what floats above the window.
+    /// The outlines of controls, of text fields at their lower edge, and of what floats above.
     readonly property color strokeColor: dark ? "#4A4A4A" : "#E1E1E1"
-    readonly property color strokeBottomColor: dark ? "#5A5A5A" : "#C6C6C6"
     readonly property color textStrokeColor: dark ? "#9A9A9A" : "#868686"
     readonly property color flyoutStrokeColor: dark ? "#1C1C1C" : "#D8D8D8"
     readonly property color flyoutColor: dark ? "#2C2C2C" : "#FCFCFC"

@@ -8,6 +8,7 @@ namespace
 QFont textFont(int sizePx, QFont::Weight weight = QFont::Normal)
 {
     QFont font = QGuiApplication::font();
+    font.setStyleHint(QFont::SansSerif);
 #ifdef Q_OS_WIN
     font.setFamily(QStringLiteral("Microsoft YaHei"));
 #endif
