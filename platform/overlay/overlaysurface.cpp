@@ -79,6 +79,8 @@ void OverlaySurface::cover()
     }
     m_window->showFullScreen();
     m_covering = true;
+    for (QWindow *own : QGuiApplication::topLevelWindows())
+        stackOther(own);
     if (!m_passThrough)
         m_backend->takeFocus();
 }
@@ -123,7 +125,7 @@ bool OverlaySurface::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_window)
         followPointer(event);
     else if (event->type() == QEvent::Expose)
-        stackOther(static_cast<QWindow *>(watched), static_cast<QWindow *>(watched)->isExposed());
+        stackOther(static_cast<QWindow *>(watched));
     return false;
 }
 
@@ -158,14 +160,15 @@ void OverlaySurface::setEraserTip(bool eraserTip)
     emit eraserTipChanged();
 }
 
-void OverlaySurface::stackOther(QWindow *other, bool exposed)
+void OverlaySurface::stackOther(QWindow *other)
 {
-    if (!exposed) { // hidden: showing it again forgets where it belongs
+    if (!other->isExposed()) { // hidden: showing it again forgets where it belongs
         m_stackedAbove.removeOne(other);
         return;
     }
     const bool floats = other->type() == Qt::Popup || other->type() == Qt::ToolTip;
-    if (!m_covering || other->parent() || floats || m_stackedAbove.contains(other))
+    if (!m_covering || other == m_window || other->parent() || floats
+        || m_stackedAbove.contains(other))
         return;
     m_stackedAbove.append(other);
     m_backend->keepAbove(other);

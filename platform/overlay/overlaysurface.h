@@ -62,7 +62,7 @@ private:
     [[nodiscard]] QScreen *screenToCover() const;
     void followPointer(const QEvent *event);
     void setEraserTip(bool eraserTip);
-    void stackOther(QWindow *other, bool exposed);
+    void stackOther(QWindow *other);
     void applyPassThrough();
 
     QPointer<QWindow> m_window;

@@ -1,20 +1,22 @@
 import QtQuick
 
-// One of the eight handles of a selection frame.
+// One of the eight handles of a selection frame, its parent.
 Rectangle {
     id: root
 
-    required property SelectionFrame frame
     required property string name
     /// -1 at the left or top edge, 1 at the right or bottom one, 0 in the middle between them.
-    property int horizontal: 0
-    property int vertical: 0
+    required property int horizontal
+    required property int vertical
     property alias cursorShape: area.cursorShape
 
-    x: (horizontal + 1) / 2 * frame.width - width / 2
-    y: (vertical + 1) / 2 * frame.height - height / 2
-    width: frame.handleSize
-    height: frame.handleSize
+    /// Positions are in the handle's own coordinates, and the handle moves with the frame.
+    signal grabbed(point pos)
+    signal dragged(point pos)
+    signal released
+
+    x: (root.horizontal + 1) / 2 * root.parent.width - root.width / 2
+    y: (root.vertical + 1) / 2 * root.parent.height - root.height / 2
     color: "white"
     border.color: "blue"
     border.width: 1
@@ -25,10 +27,9 @@ Rectangle {
         anchors.fill: parent
         anchors.margins: -3 // easier to hit than it looks
 
-        onPressed: mouse => root.frame.grab(root.name, Qt.point(mouse.x, mouse.y))
-        onPositionChanged: mouse => root.frame.drag(
-            Qt.point(mouse.x, mouse.y), root.horizontal, root.vertical)
-        onReleased: root.frame.release()
-        onCanceled: root.frame.release()
+        onPressed: mouse => root.grabbed(Qt.point(mouse.x, mouse.y))
+        onPositionChanged: mouse => root.dragged(Qt.point(mouse.x, mouse.y))
+        onReleased: root.released()
+        onCanceled: root.released()
     }
 }

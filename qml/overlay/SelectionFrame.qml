@@ -135,12 +135,31 @@ Item {
         onCanceled: root.release()
     }
 
-    FrameHandle { frame: root; name: "topMiddle"; vertical: -1; cursorShape: Qt.SizeVerCursor }
-    FrameHandle { frame: root; name: "bottomMiddle"; vertical: 1; cursorShape: Qt.SizeVerCursor }
-    FrameHandle { frame: root; name: "leftMiddle"; horizontal: -1; cursorShape: Qt.SizeHorCursor }
-    FrameHandle { frame: root; name: "rightMiddle"; horizontal: 1; cursorShape: Qt.SizeHorCursor }
-    FrameHandle { frame: root; name: "topLeft"; horizontal: -1; vertical: -1; cursorShape: Qt.SizeFDiagCursor }
-    FrameHandle { frame: root; name: "topRight"; horizontal: 1; vertical: -1; cursorShape: Qt.SizeBDiagCursor }
-    FrameHandle { frame: root; name: "bottomLeft"; horizontal: -1; vertical: 1; cursorShape: Qt.SizeBDiagCursor }
-    FrameHandle { frame: root; name: "bottomRight"; horizontal: 1; vertical: 1; cursorShape: Qt.SizeFDiagCursor }
+    Repeater {
+        // The corners last: on a small frame they cover the others.
+        model: [
+            { name: "topMiddle", horizontal: 0, vertical: -1, cursor: Qt.SizeVerCursor },
+            { name: "bottomMiddle", horizontal: 0, vertical: 1, cursor: Qt.SizeVerCursor },
+            { name: "leftMiddle", horizontal: -1, vertical: 0, cursor: Qt.SizeHorCursor },
+            { name: "rightMiddle", horizontal: 1, vertical: 0, cursor: Qt.SizeHorCursor },
+            { name: "topLeft", horizontal: -1, vertical: -1, cursor: Qt.SizeFDiagCursor },
+            { name: "topRight", horizontal: 1, vertical: -1, cursor: Qt.SizeBDiagCursor },
+            { name: "bottomLeft", horizontal: -1, vertical: 1, cursor: Qt.SizeBDiagCursor },
+            { name: "bottomRight", horizontal: 1, vertical: 1, cursor: Qt.SizeFDiagCursor }
+        ]
+
+        FrameHandle {
+            required property var modelData
+
+            name: modelData.name
+            horizontal: modelData.horizontal
+            vertical: modelData.vertical
+            cursorShape: modelData.cursor
+            width: root.handleSize
+            height: root.handleSize
+            onGrabbed: pos => root.grab(name, pos)
+            onDragged: pos => root.drag(pos, horizontal, vertical)
+            onReleased: root.release()
+        }
+    }
 }

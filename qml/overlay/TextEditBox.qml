@@ -98,5 +98,7 @@ Rectangle {
         anchors.fill: parent
         box: root
         edit: edit
+        dragAnywhere: !root.showText
+        onDoubleClicked: root.completed()
     }
 }

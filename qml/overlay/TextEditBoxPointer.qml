@@ -4,16 +4,18 @@ import QtQuick
 MouseArea {
     id: root
 
-    required property TextEditBox box
+    /// What a drag moves.
+    required property Item box
+    /// Its text; what surrounds it is the strip that can always be dragged.
     required property TextEdit edit
+    required property bool dragAnywhere
     property point pressPos
     property bool mayDrag: false
     property bool dragging: false
 
     function onBorderStrip(mouse): bool {
-        const margin = root.box.textMargin;
-        return mouse.x < margin || mouse.y < margin || mouse.x > root.width - margin
-            || mouse.y > root.height - margin;
+        return mouse.x < root.edit.x || mouse.x > root.edit.x + root.edit.width
+            || mouse.y < root.edit.y || mouse.y > root.edit.y + root.edit.height;
     }
 
     function caretAt(mouse): int {
@@ -25,10 +27,10 @@ MouseArea {
 
     onPressed: mouse => {
         root.pressPos = Qt.point(mouse.x, mouse.y);
-        root.mayDrag = !root.box.showText || root.onBorderStrip(mouse);
+        root.mayDrag = root.dragAnywhere || root.onBorderStrip(mouse);
         root.dragging = false;
         Qt.inputMethod.commit();
-        root.box.takeFocus();
+        root.edit.forceActiveFocus();
         root.edit.cursorPosition = root.caretAt(mouse);
     }
 
@@ -45,8 +47,6 @@ MouseArea {
     }
 
     onReleased: root.dragging = false
-
-    onDoubleClicked: root.box.completed()
 
     onWheel: wheel => {
         wheel.accepted = (wheel.modifiers & Qt.ControlModifier) !== 0;
