@@ -5,11 +5,12 @@ from .inputs import LEFT, MIDDLE, RIGHT
 from .program import Program, install
 from .screen import changed_box, near
 from .session import Desktop
+from .tray import EXIT, HIDE, TrayIcon
 from .waiting import WaitTimeout, wait_for
 from .windows import Rect, Window
 
 __all__ = [
-    "LEFT", "MIDDLE", "RIGHT", "Desktop", "DesktopTestCase", "Program", "Rect", "WaitTimeout",
+    "EXIT", "HIDE", "LEFT", "MIDDLE", "RIGHT", "Desktop", "DesktopTestCase", "Program", "Rect", "TrayIcon", "WaitTimeout",
     "Window", "artifacts_folder", "changed_box", "install", "main", "near", "program_path",
     "wait_for",
 ]

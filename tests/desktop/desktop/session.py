@@ -30,7 +30,7 @@ class Desktop:
     """
 
     def __init__(self, size=(1280, 800), monitors=None, tray=True, compositor=True,
-                 window_manager=True, language="en_US", wallpaper=None):
+                 window_manager=True, language="zh_CN", wallpaper=None):
         self.size = size
         self._wanted = {"tray": tray, "compositor": compositor, "window_manager": window_manager}
         self._monitors = monitors
