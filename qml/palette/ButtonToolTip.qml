@@ -2,39 +2,45 @@ import QtQuick
 import QtQuick.Window
 import "Theme.js" as Theme
 
-/// A tool-tip beside the window of its button, at the pointer's height: a window of its own, since
-/// the palette is narrower than any text, and beside it, since it must not cover the next button.
+/// The tool-tip of the palette's buttons: a window of its own, since the palette is narrower than
+/// any text. It stands beside the palette and its open flyout, at the pointer's height, so that it
+/// never covers what it explains or the next button.
 Window {
     id: root
 
-    required property string text
-    required property Item button
-    required property real pointerY
-    property bool onLeft: false
-    property real gap: 8
+    /// The palette window.
+    required property var palette
+    required property var flyouts
 
-    readonly property var home: button.Window.window
+    property Item button: null
+    readonly property int gap: 8
 
-    function place() {
-        const top = button.mapToGlobal(0, pointerY).y - height / 2;
+    function showFor(target, pointerY) {
+        button = target;
+        const reach = (flyouts.isOpen ? flyouts.popupWidth : 0) + gap;
+        const right = palette.x + palette.width + reach;
         const lowest = Screen.virtualY + Screen.height - height;
-        x = onLeft ? home.x - width - gap : home.x + home.width + gap;
-        y = Math.round(Math.max(Screen.virtualY, Math.min(top, lowest)));
+        x = flyouts.onLeft ? palette.x - width - reach : right;
+        y = Math.round(Math.max(Screen.virtualY,
+                                Math.min(target.mapToGlobal(0, pointerY).y - height / 2, lowest)));
+        show();
+        raise();
+    }
+
+    function hideFor(target) {
+        if (button !== target)
+            return;
+        button = null;
+        hide();
     }
 
     flags: Qt.ToolTip | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
            | Qt.WindowDoesNotAcceptFocus | Qt.WindowTransparentForInput
     color: "transparent"
+    title: label.text
     transientParent: null
     width: Math.ceil(label.implicitWidth) + 18
     height: Math.ceil(label.implicitHeight) + 10
-
-    Component.onCompleted: {
-        place();
-        visible = true;
-    }
-    onWidthChanged: place()
-    onGapChanged: place()
 
     Rectangle {
         anchors.fill: parent
@@ -44,7 +50,7 @@ Window {
         Text {
             id: label
             anchors.centerIn: parent
-            text: root.text
+            text: (root.button as MyIconButton)?.toolTipText ?? ""
             color: Theme.tipText
             font.pixelSize: 12
         }

@@ -9,22 +9,27 @@ Item {
     /// The recorder, to end a recording that outlives its panel.
     required property var videoCapture
 
+    readonly property string savePath: palette.hotKeys.screenSavePath ?? ""
     readonly property string idleIcon: "qrc:/icons/record.png"
     property string recordIcon: idleIcon
     readonly property bool isRecordIcon: recordIcon === idleIcon
+    readonly property var panel: recordLoader.item
 
-    // Loading waits for the next turn of the event loop: the loader must have let go of the former
-    // window before it makes the next one.
+    /// On the next turn of the event loop: a loader must have let go of its former window first,
+    /// and a window must not be deleted under its own signal.
+    function nextTurn(work) {
+        Qt.callLater(work); // qmllint disable
+    }
+
     function openScreenshot() {
         screenshotLoader.source = "";
-        Qt.callLater(() => screenshotLoader.setSource("qrc:/Screenshot.qml",
-                                                      { sPath: palette.hotKeys.screenSavePath ?? "" }));
+        nextTurn(() => screenshotLoader.setSource("qrc:/Screenshot.qml", { sPath: savePath }));
     }
 
     function toggleRecording() {
         if (!isRecordIcon) {
-            if (recordLoader.item)
-                recordLoader.item.stopRecord();
+            if (panel)
+                panel.stopRecord();
             recordLoader.source = "";
             recordIcon = idleIcon;
             return;
@@ -33,8 +38,7 @@ Item {
         recordLoader.source = "";
         recordLoader.active = false;
         recordLoader.active = true;
-        Qt.callLater(() => recordLoader.setSource("qrc:/VideoShot.qml",
-                                                  { sPath: palette.hotKeys.screenSavePath ?? "" }));
+        nextTurn(() => recordLoader.setSource("qrc:/VideoShot.qml", { sPath: savePath }));
     }
 
     Loader {
@@ -51,7 +55,7 @@ Item {
     }
 
     Connections {
-        target: recordLoader.item
+        target: root.panel
         ignoreUnknownSignals: true
         function onClose() {
             console.log("VideoShot窗口关闭，检查录制状态");
@@ -60,8 +64,7 @@ Item {
                 console.log("停止录制中...");
                 root.videoCapture.stopRecording();
             }
-            // The panel is still inside its own signal; it must not be deleted under it.
-            Qt.callLater(() => {
+            root.nextTurn(() => {
                 recordLoader.source = "";
                 recordLoader.active = false;
                 console.log("VideoShot资源已清理");

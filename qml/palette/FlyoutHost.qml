@@ -11,11 +11,14 @@ Item {
     required property var palette
     required property var toolNames
 
+    readonly property real scaleFactor: palette.scaleFactor
+    readonly property var tip: palette.tip
     readonly property bool isOpen: palette.selectWindow !== null
     readonly property real popupWidth: 55 * palette.scaleFactor
     /// Too little room on the right: flyouts, tool-tips and windows open on the left.
     readonly property bool onLeft: palette.rightMargin <= popupWidth + 10
 
+    /// The flyout that is or was open last.
     property string kind: ""
 
     readonly property var handlers: ({
@@ -57,6 +60,7 @@ Item {
             btnType: spec.btnType,
             names: spec.rows ? rows.map(toolNames.of) : rows,
             scaleFactor: palette.scaleFactor,
+            tip: palette.tip,
             pointsRight: onLeft
         });
         if (!flyout) {

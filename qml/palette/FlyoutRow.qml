@@ -1,37 +1,37 @@
 import QtQuick
-import FluentUI
 import "Theme.js" as Theme
 
 /// One row of a flyout and the line beneath it.
 Column {
     id: root
 
-    required property int rowHeight
-    required property real scaleFactor
-    required property var value
-    required property string name
-    /// 0 an icon code, 1 a picture, 2 text.
-    required property int kind
-    property bool enableEvent: false
-    /// The row that the keyboard stands on.
-    property bool current: false
-    property bool last: false
-    property bool tipOnLeft: false
+    required property int index
+    /// "flyout": the flyout; "value": the row's value; "name": what it is called.
+    required property var modelData
 
-    signal chosen()
+    readonly property var flyout: modelData.flyout
+    readonly property real scaleFactor: flyout.scaleFactor
+    readonly property bool isLast: index === flyout.customData.length - 1
+    readonly property string kind: ["qrc:/FlyoutIconRow.qml", "qrc:/FlyoutPictureRow.qml",
+                                    "qrc:/FlyoutTextRow.qml"][flyout.btnType]
 
+    function choose() {
+        flyout.choose(index);
+    }
+
+    width: Math.round(flyout.width * 0.8)
     spacing: Math.round(2 * scaleFactor)
 
     Loader {
         width: root.width
-        height: root.rowHeight
+        height: Math.round(35 * root.scaleFactor)
         clip: true
-        sourceComponent: [iconRow, pictureRow, textRow][root.kind]
+        Component.onCompleted: setSource(root.kind, { row: root })
 
         Rectangle {
             anchors.fill: parent
             z: 1
-            visible: root.current
+            visible: root.index === root.flyout.nowIdx
             color: "transparent"
             radius: 4
             border { color: Theme.accent; width: 2 }
@@ -43,64 +43,6 @@ Column {
         width: Math.round(root.width * 0.7)
         height: Math.round(root.scaleFactor)
         color: Theme.separator
-        opacity: root.last ? 0 : 1
-    }
-
-    Component {
-        id: iconRow
-
-        FluIconButton {
-            iconSource: Number(root.value)
-            hoverColor: "gray"
-            contentDescription: root.name
-            onClicked: root.chosen()
-        }
-    }
-
-    Component {
-        id: pictureRow
-
-        Item {
-            MyIconButton {
-                anchors.centerIn: parent
-                width: 50 * root.scaleFactor
-                height: 40 * root.scaleFactor
-                img_src: root.value
-                enableEvent: root.enableEvent
-                toolTipText: root.name
-                tipOnLeft: root.tipOnLeft
-                activeFocusOnTab: false
-                onClickedLeft: root.chosen()
-            }
-        }
-    }
-
-    Component {
-        id: textRow
-
-        Rectangle {
-            color: area.containsMouse ? Theme.rowHover : Theme.paper
-            Accessible.role: Accessible.MenuItem
-            Accessible.name: root.name
-            Accessible.onPressAction: root.chosen()
-
-            Text {
-                anchors.fill: parent
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                text: root.name
-                color: Theme.ink
-                font.pixelSize: Math.round(12 * root.scaleFactor)
-                fontSizeMode: Text.HorizontalFit
-                minimumPixelSize: 6
-            }
-
-            MouseArea {
-                id: area
-                anchors.fill: parent
-                hoverEnabled: true
-                onClicked: root.chosen()
-            }
-        }
+        opacity: root.isLast ? 0 : 1
     }
 }

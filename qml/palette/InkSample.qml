@@ -15,9 +15,9 @@ Item {
 
     // Where the mark lies on the 26-unit grid on which the pictures are drawn.
     readonly property var mark: ({
-        "qrc:/icons/pen.png": Qt.rect(3, 19.5, 20, 5),
-        "qrc:/icons/ygpen.png": Qt.rect(3, 19, 20, 5),
-        "qrc:/icons/text.png": Qt.rect(21, 8, 2, 15)
+        "qrc:/icons/pen.png": Qt.rect(3, 19.5, 16, 5),
+        "qrc:/icons/ygpen.png": Qt.rect(3, 19, 16, 5),
+        "qrc:/icons/text.png": Qt.rect(19, 3, 2, 15)
     })[picture]
     readonly property real unit: frame.width / 26
     readonly property bool isPen: picture === "qrc:/icons/pen.png"

@@ -23,9 +23,8 @@ Rectangle {
     property bool active: false
     /// Room around the button, above and below, in which it still takes the pointer.
     property real reach: 0
-    /// Which side of the window the tool-tip appears on, and how far away.
-    property bool tipOnLeft: false
-    property real tipGap: 8
+    /// The window that shows tool-tips; it is shared by all buttons.
+    property var tip: null
     property string accessibleName: toolTipText
 
     readonly property alias picture: image
@@ -44,6 +43,11 @@ Rectangle {
             color = shade;
     }
 
+    function hideTip() {
+        if (tip)
+            tip.hideFor(root);
+    }
+
     function trigger() {
         if (!enableEvent)
             clickedLeft();
@@ -51,6 +55,8 @@ Rectangle {
 
     color: Theme.paper
     activeFocusOnTab: true
+    onToolTipTextChanged: hideTip()
+    Component.onDestruction: hideTip()
     Accessible.role: Accessible.Button
     Accessible.name: accessibleName
     Accessible.focusable: true
@@ -112,15 +118,19 @@ Rectangle {
         onEntered: {
             root.setBackground(Theme.buttonHover);
             root.entered();
+            if (root.tip && root.toolTipText !== "")
+                root.tip.showFor(root, mouseArea.mouseY - root.reach);
         }
         onExited: {
             root.setBackground(Theme.paper);
             root.exited();
+            root.hideTip();
         }
         onPressed: mouse => {
             if (root.enableEvent)
                 return;
             root.setBackground(Theme.buttonPressed);
+            root.hideTip();
             root.pressed(mouse);
         }
         onReleased: mouse => {
@@ -137,17 +147,6 @@ Rectangle {
                 root.clickedRight();
             else
                 root.clickedLeft();
-        }
-    }
-
-    Loader {
-        active: root.toolTipText !== "" && mouseArea.containsMouse && !mouseArea.pressed
-        sourceComponent: ButtonToolTip {
-            text: root.toolTipText
-            button: root
-            onLeft: root.tipOnLeft
-            gap: root.tipGap
-            pointerY: mouseArea.mouseY - root.reach
         }
     }
 }

@@ -4,27 +4,27 @@ import QtQuick
 MyIconButton {
     id: root
 
-    required property real scaleFactor
     required property var flyouts
     /// Key of the flyout that opens on entry; empty without one.
     property string flyout: ""
     /// A click does something of its own instead of opening the flyout.
     property bool actsOnClick: false
-    property bool closesFlyout: false
+
+    readonly property real scaleFactor: flyouts.scaleFactor
 
     width: 50 * scaleFactor
     height: 40 * scaleFactor
     radius: 4
     reach: Math.round(4 * scaleFactor)
     showRBIcon: flyout !== ""
-    tipGap: flyouts.isOpen ? flyouts.popupWidth + 8 : 8
+    tip: flyouts.tip
     Accessible.description: flyout !== "" ? qsTr("按左右方向键打开选项") : ""
 
     onEntered: {
+        if (flyouts.kind !== flyout)
+            flyouts.close();
         if (flyout !== "")
             flyouts.open(flyout, root);
-        else if (closesFlyout)
-            flyouts.close();
     }
     onClickedLeft: {
         if (flyout !== "" && !actsOnClick)

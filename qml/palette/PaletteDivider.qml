@@ -2,11 +2,13 @@ import QtQuick
 import QtQuick.Window
 import "Theme.js" as Theme
 
-/// The grey line between two buttons. It stands in the middle of the gap and takes no height of
-/// its own, so that the last button ends above the palette's bottom edge.
+/// The grey line between two buttons. It stands in the middle of the gap and takes no room of its
+/// own, so that the last button ends above the palette's bottom edge.
 Item {
     anchors.horizontalCenter: parent.horizontalCenter
-    height: 0
+    width: parent.width / 2
+    // A positioner passes over items without height, and with them their share of the spacing.
+    height: 1e-6
 
     Rectangle {
         anchors.horizontalCenter: parent.horizontalCenter

@@ -1,4 +1,3 @@
-import QtQml
 import QtQuick
 
 /// Where the palette stands: at the right edge of the main screen at first, where it was left
@@ -14,7 +13,7 @@ QtObject {
 
     /// Distance from the palette's right edge to that of the virtual desktop; 0 without a screen.
     function rightMargin() {
-        const screens = Array.from(Qt.application.screens);
+        const screens = Array.from(Application.screens);
         if (screens.length === 0)
             return 0;
         const right = Math.max(...screens.map(screen => screen.virtualX + screen.width));
@@ -22,7 +21,7 @@ QtObject {
     }
 
     function startPosition(width, height) {
-        const main = Qt.application.screens[0];
+        const main = Application.screens[0];
         if (!main)
             return Qt.point(0, 0);
         const stored = settings.getSettingByKey(key).split(",").map(Number);
@@ -49,7 +48,7 @@ QtObject {
     /// The position for `area` that shows all of it, on the screen that holds most of it or else
     /// is nearest; unchanged where monitors show it whole already.
     function fitted(area) {
-        const screens = Array.from(Qt.application.screens);
+        const screens = Array.from(Application.screens);
         const shown = screens.reduce((sum, screen) => sum + overlap(area, screen), 0);
         if (screens.length === 0 || shown >= area.width * area.height)
             return Qt.point(area.x, area.y);
@@ -81,19 +80,7 @@ QtObject {
         onTriggered: root.bringBack()
     }
 
-    property Connections screenList: Connections {
-        target: Qt.application
-        function onScreensChanged() { root.settle.restart(); }
-    }
-
-    property Instantiator screenSizes: Instantiator {
-        model: Qt.application.screens
-        delegate: Connections {
-            required property var modelData
-            target: modelData
-            function onDesktopGeometryChanged() { root.settle.restart(); }
-            function onWidthChanged() { root.settle.restart(); }
-            function onHeightChanged() { root.settle.restart(); }
-        }
-    }
+    readonly property string monitors: Array.from(Application.screens).map(
+        screen => [screen.virtualX, screen.virtualY, screen.width, screen.height].join()).join("|")
+    onMonitorsChanged: settle.restart()
 }

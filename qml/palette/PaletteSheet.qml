@@ -22,30 +22,23 @@ Item {
 
     height: 800 * scaleFactor
 
-    component ToolButton: PaletteButton {
-        scaleFactor: root.scaleFactor
-        flyouts: root.flyouts
-        tipOnLeft: root.flyouts.onLeft
-    }
-    component Divider: PaletteDivider {
-        width: root.width / 2
-    }
-
     Rectangle {
-        width: parent.width
+        id: paper
+        width: root.palette.width
         height: Math.min(parent.height, root.palette.height - root.y)
         radius: 6
         color: Theme.paper
-        border { color: Theme.hairline; width: 1 }
     }
 
     Column {
         anchors.horizontalCenter: parent.horizontalCenter
         spacing: Math.round(4 * root.scaleFactor)
 
-        ToolButton {
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: root.isOpen ? "qrc:/icons/up.png" : "qrc:/icons/down.png"
             color: Theme.accent
+            radius: paper.radius
             isBackTransparent: true
             toolTipText: root.isOpen ? qsTr("展开") : qsTr("收起")
             onClickedLeft: {
@@ -53,14 +46,16 @@ Item {
                 root.isOpen = !root.isOpen;
             }
         }
-        Divider {}
-        ToolButton {
+        PaletteDivider {}
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: root.palette.drawAble ? "qrc:/icons/on.png" : "qrc:/icons/off.png"
             toolTipText: root.palette.drawAble ? qsTr("鼠标") : qsTr("画笔")
             onClickedLeft: root.palette.overlayLink.toggle()
         }
-        Divider {}
-        ToolButton {
+        PaletteDivider {}
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: root.palette.penIcon
             flyout: "pen"
             toolTipText: root.toolNames.of(root.palette.penIcon)
@@ -73,23 +68,25 @@ Item {
                 canvas: root.canvas
             }
         }
-        Divider {}
-        ToolButton {
+        PaletteDivider {}
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: root.palette.lineIcon
             flyout: "shape"
             toolTipText: root.toolNames.of(root.palette.lineIcon)
             active: root.mode > 0 && !root.writing && !root.erasing
         }
-        Divider {}
-        ToolButton {
+        PaletteDivider {}
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: "qrc:/icons/erase.png"
             toolTipText: qsTr("橡皮擦")
             active: root.erasing
-            closesFlyout: true
             onClickedLeft: root.palette.tools.toggleEraser()
         }
-        Divider {}
-        ToolButton {
+        PaletteDivider {}
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: root.palette.cxiaoIcon
             flyout: "history"
             actsOnClick: true
@@ -97,68 +94,81 @@ Item {
             enableEvent: !root.drawing
             onClickedLeft: root.palette.tools.undoOrRedo()
         }
-        Divider {}
-        ToolButton {
+        PaletteDivider {}
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: "qrc:/icons/clear.png"
             toolTipText: qsTr("清除画布")
-            closesFlyout: true
             onClickedLeft: root.palette.tools.clearBoard()
         }
-        Divider {}
-        ToolButton {
+        PaletteDivider {}
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: "qrc:/icons/whiteBorad.png"
             flyout: "board"
             toolTipText: qsTr("画板")
             enableEvent: !root.drawing
         }
-        Divider {}
-        ToolButton {
+        PaletteDivider {}
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: "qrc:/icons/screen.png"
             toolTipText: qsTr("截屏")
-            closesFlyout: true
             onClickedLeft: root.palette.captures.openScreenshot()
         }
-        Divider {}
-        ToolButton {
+        PaletteDivider {}
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: root.palette.captures.recordIcon
             miniSize: 0.7
             toolTipText: root.palette.captures.isRecordIcon ? qsTr("录屏") : qsTr("停止录屏")
-            closesFlyout: true
             onClickedLeft: root.palette.captures.toggleRecording()
         }
-        Divider {}
-        ToolButton {
+        PaletteDivider {}
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: "qrc:/icons/color.png"
             toolTipText: qsTr("画笔颜色")
             enableEvent: !root.drawing
-            closesFlyout: true
             onClickedLeft: root.palette.tools.openColours()
         }
-        Divider {}
-        ToolButton {
+        PaletteDivider {}
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: root.palette.cuxiIcon
             flyout: "thickness"
             toolTipText: qsTr("画笔粗细")
         }
-        Divider {}
-        ToolButton {
+        PaletteDivider {}
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: root.palette.deleteIcon
             flyout: "fade"
             toolTipText: qsTr("自动消失")
             enableEvent: !root.drawing
         }
-        Divider {}
-        ToolButton {
+        PaletteDivider {}
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: root.canvas && root.canvas.isBreath ? root.palette.repeatIcon : "qrc:/icons/re.png"
             flyout: "breath"
             toolTipText: qsTr("呼吸效果")
             enableEvent: !root.drawing
         }
-        Divider {}
-        ToolButton {
+        PaletteDivider {}
+        PaletteButton {
+            flyouts: root.flyouts
             img_src: "qrc:/icons/menue.png"
             flyout: "menu"
             toolTipText: qsTr("菜单")
         }
+    }
+
+    // Above the buttons, which reach to the edges.
+    Rectangle {
+        anchors.fill: paper
+        radius: paper.radius
+        color: "transparent"
+        border { color: Theme.hairline; width: 1 }
     }
 }

@@ -40,6 +40,7 @@ Window {
     readonly property alias overlayLink: overlayLink
     readonly property alias captures: captures
     readonly property alias windows: windows
+    readonly property alias tip: tip
 
     /// Keeps a click on the palette from taking the keyboard away from what the user types in.
     /// With the pointer elsewhere the palette may be reached with the window switcher.
@@ -90,8 +91,10 @@ Window {
 
     onFrameSwapped: shownOnce = true
     onVisibleChanged: {
-        if (!visible)
-            flyouts.close();
+        if (visible)
+            return;
+        flyouts.close();
+        tip.hide();
     }
     onClosing: Qt.quit()
 
@@ -128,6 +131,8 @@ Window {
     FlyoutHost { id: flyouts; palette: root; toolNames: toolNames }
     CaptureWindows { id: captures; palette: root; videoCapture: videoCaptureObj }
 
+    ButtonToolTip { id: tip; palette: root; flyouts: flyouts }
+
     HoverHandler { id: pointer }
 
     Column {
@@ -155,7 +160,7 @@ Window {
     }
 
     Connections {
-        target: LanguageManager
+        target: LanguageManager // qmllint disable unqualified
         // Hidden and shown again, the window comes back with every text in the new language.
         function onLanguageChanged(language) {
             console.log("语言已更改为: ", language);

@@ -16,6 +16,8 @@ Window {
     property int nowIdx: -1
     /// What each row is called, in the order of `customData`.
     property var names: []
+    /// The window that shows tool-tips.
+    property var tip: null
     /// The palette stands to the right: the arrow points there.
     property bool pointsRight: false
     /// Height of the button that the arrow points at, in this window.
@@ -42,6 +44,7 @@ Window {
 
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint | Qt.WindowDoesNotAcceptFocus
     color: "transparent"
+    title: qsTr("选项")
     width: Math.round(50 * scaleFactor)
     height: Math.round(customData.length * 38 * scaleFactor + 20 * scaleFactor)
 
@@ -83,22 +86,11 @@ Window {
         spacing: Math.round(2 * root.scaleFactor)
 
         Repeater {
-            model: root.customData.length
+            model: root.customData.map((value, index) => ({
+                flyout: root, value: value, name: root.names[index] ?? String(value)
+            }))
 
-            FlyoutRow {
-                required property int index
-                width: Math.round(root.width * 0.8)
-                rowHeight: Math.round(35 * root.scaleFactor)
-                scaleFactor: root.scaleFactor
-                value: root.customData[index]
-                name: root.names[index] ?? String(value)
-                kind: root.btnType
-                enableEvent: root.enableEvent
-                current: index === root.nowIdx
-                last: index === root.customData.length - 1
-                tipOnLeft: root.pointsRight
-                onChosen: root.choose(index)
-            }
+            FlyoutRow {}
         }
     }
 }

@@ -37,13 +37,13 @@ PanelWindow {
         PanelText {
             Layout.alignment: Qt.AlignHCenter
             Layout.topMargin: 8
-            text: AppDescription
+            text: AppDescription // qmllint disable unqualified
             font { pixelSize: Theme.titleText; weight: Font.DemiBold }
         }
 
         PanelText {
             Layout.alignment: Qt.AlignHCenter
-            text: qsTr("版本 %1 · 界面 %2").arg(AppVersion).arg(root.interfaceVersion)
+            text: qsTr("版本 %1 · 界面 %2").arg(AppVersion).arg(root.interfaceVersion) // qmllint disable unqualified
             color: Theme.inkMuted
         }
 
@@ -51,7 +51,7 @@ PanelWindow {
             Layout.fillWidth: true
             Layout.topMargin: 10
             horizontalAlignment: Text.AlignHCenter
-            text: AppCopyright
+            text: AppCopyright // qmllint disable unqualified
             color: Theme.inkMuted
             font.pixelSize: 12
         }
