@@ -1,41 +1,48 @@
 import QtQuick
-import QtQuick.Dialogs
 import Cpp.MyComponents
+import Dravelin.Platform
 
 // The overlay's colour dialog and its choice of a background picture.
 Item {
     id: root
 
     required property MyPainter painter
+    /// The window beside which the colour dialog opens, in the overlay's coordinates.
+    required property rect palette
 
     signal pictureChosen(url picture)
 
     function openColor(): void {
-        colorDialog.selectedColor = root.painter.penColor;
-        colorDialog.open();
+        colorDialog.place();
+        colorDialog.openWith(root.painter.penColor);
     }
 
     function closeColor(): void { colorDialog.close(); }
-    function openPicture(): void { fileDialog.open(); }
+    function openPicture(): void { pictureDialog.open(); }
 
-    ColorDialog {
+    PenColorDialog {
         id: colorDialog
 
-        function apply(): void { root.painter.penColor = selectedColor; }
+        function place(): void {
+            const gap = 12;
+            const beside = root.palette.x + root.palette.width + gap;
+            const fits = beside + width + gap <= root.width;
+            x = fits ? beside : Math.max(gap, root.palette.x - width - gap);
+            const middle = root.palette.y + (root.palette.height - height) / 2;
+            y = Math.max(gap, Math.min(middle, root.height - height - gap));
+        }
 
-        onSelectedColorChanged: if (visible)
-            apply()
-        onAccepted: apply()
+        parent: root
+        onChosen: color => root.painter.penColor = color
     }
 
-    FileDialog {
-        id: fileDialog
+    PictureDialog {
+        id: pictureDialog
 
         title: qsTr("请选择一个文件")
         acceptLabel: qsTr("确定")
         rejectLabel: qsTr("取消")
-        nameFilters: ["Image files (*.png *.jpg)"]
-        fileMode: FileDialog.OpenFile
-        onAccepted: root.pictureChosen(selectedFile)
+        nameFilter: "Image files (*.png *.jpg)"
+        onAccepted: picture => root.pictureChosen(picture)
     }
 }

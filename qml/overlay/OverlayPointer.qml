@@ -133,8 +133,10 @@ MouseArea {
     onClicked: mouse => root.click(root.pointOf(mouse), mouse.button)
 
     onDoubleClicked: mouse => {
-        root.texts.submitAndClose();
-        if (mouse.button === Qt.RightButton) // two quick clicks delete two marks
+        // Quick clicks are clicks too: they delete two marks, or close an editor and open the next.
+        if (root.texts.open)
+            root.texts.submitAndClose();
+        else
             root.click(root.pointOf(mouse), mouse.button);
     }
 

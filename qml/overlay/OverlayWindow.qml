@@ -187,7 +187,12 @@ Window {
 
     OverlayDialogs {
         id: dialogs
+        anchors.fill: parent
         painter: myPainter
+        palette: root.anchorWindow
+            ? Qt.rect(root.anchorWindow.x - root.x, root.anchorWindow.y - root.y,
+                root.anchorWindow.width, root.anchorWindow.height)
+            : Qt.rect(0, 0, 0, 0)
         onPictureChosen: picture => root.showPicture(picture)
     }
 }

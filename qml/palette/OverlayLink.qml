@@ -13,7 +13,7 @@ QtObject {
     function create() {
         const component = Qt.createComponent(document);
         // Without a parent: a child window would always stay above the palette.
-        const overlay = component.createObject(null);
+        const overlay = component.createObject(null, { anchorWindow: palette });
         if (!overlay) {
             console.warn("创建绘图窗口失败:", component.errorString());
             return false;

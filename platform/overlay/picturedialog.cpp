@@ -1,0 +1,35 @@
+#include "platform/overlay/picturedialog.h"
+
+#include <QFileDialog>
+#include <QStandardPaths>
+
+PictureDialog::PictureDialog(QObject *parent)
+    : QObject(parent), m_folder(QUrl::fromLocalFile(
+                           QStandardPaths::writableLocation(QStandardPaths::PicturesLocation)))
+{
+}
+
+PictureDialog::~PictureDialog() = default;
+
+void PictureDialog::open()
+{
+    if (!m_dialog) {
+        m_dialog = std::make_unique<QFileDialog>();
+        m_dialog->setFileMode(QFileDialog::ExistingFile);
+        m_dialog->setWindowFlag(Qt::WindowStaysOnTopHint);
+        connect(m_dialog.get(), &QFileDialog::urlSelected, this, [this](const QUrl &file) {
+            m_folder = file.adjusted(QUrl::RemoveFilename);
+            emit accepted(file);
+        });
+    }
+    // Every time: the interface's language may have changed.
+    m_dialog->setWindowTitle(m_title);
+    m_dialog->setLabelText(QFileDialog::Accept, m_acceptLabel);
+    m_dialog->setLabelText(QFileDialog::Reject, m_rejectLabel);
+    m_dialog->setNameFilter(m_nameFilter);
+    if (!m_dialog->isVisible())
+        m_dialog->setDirectoryUrl(m_folder);
+    m_dialog->show();
+    m_dialog->raise();
+    m_dialog->activateWindow();
+}
