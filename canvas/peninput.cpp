@@ -92,7 +92,7 @@ QRect PenInput::reshape(const QPoint &target)
     const QRect before = current->paintedRect();
     if (auto *stroke = dynamic_cast<FreehandElement *>(current)) {
         stroke->points = m_strokePoints;
-        stroke->path = QPainterPath();
+        stroke->rebuildPath(); // what can be seen can be hit, painted or not
     } else if (auto *circle = dynamic_cast<CircleElement *>(current)) {
         circle->radius = distanceBetween(m_startPos, target);
     } else if (auto *shape = dynamic_cast<TwoPointElement *>(current)) {
@@ -108,6 +108,7 @@ ElementPtr PenInput::createElement(const QPoint &target) const
     case DrawingElement::Freehand: {
         auto stroke = std::make_unique<FreehandElement>(color, size, opacity);
         stroke->points = m_strokePoints;
+        stroke->rebuildPath();
         return stroke;
     }
     case DrawingElement::Line:
