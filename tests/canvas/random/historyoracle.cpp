@@ -5,19 +5,20 @@
 namespace
 {
 
+using Step = void (*)(QStringList &ids, const QString &id);
+
 void restore(QStringList &ids, const QString &id)
 {
     if (!ids.contains(id))
         ids.append(id);
 }
 
-void remove(QStringList &ids, const QString &id)
+void takeAway(QStringList &ids, const QString &id)
 {
     ids.removeOne(id);
 }
 
 /// Applies `step` to every entry of the eraser's group whose marker is on top of the stack.
-template <typename Step>
 void throughGroup(const std::vector<HistoryEntry> &stack, QStringList &ids, Step step)
 {
     for (auto entry = stack.rbegin() + 1;
@@ -43,11 +44,11 @@ std::optional<HistoryOutcome> outcomeOfUndo(const CanvasDocument &document)
     const HistoryEntry &top = stack.back();
     HistoryOutcome outcome{ idsOf(document), {} };
     if (top.kind == HistoryEntry::Add) {
-        remove(outcome.ids, top.elementId);
+        takeAway(outcome.ids, top.elementId);
     } else if (top.kind == HistoryEntry::EraserGroup) {
         throughGroup(stack, outcome.ids, restore);
     } else if (top.kind == HistoryEntry::Transform) {
-        remove(outcome.ids, top.elementId);
+        takeAway(outcome.ids, top.elementId);
         restore(outcome.ids, top.elementId);
         outcome.topBounds = top.before->boundingRect();
     } else {
@@ -66,13 +67,13 @@ std::optional<HistoryOutcome> outcomeOfRedo(const CanvasDocument &document)
     if (top.kind == HistoryEntry::Add) {
         restore(outcome.ids, top.elementId);
     } else if (top.kind == HistoryEntry::EraserGroup) {
-        throughGroup(stack, outcome.ids, remove);
+        throughGroup(stack, outcome.ids, takeAway);
     } else if (top.kind == HistoryEntry::Transform) {
-        remove(outcome.ids, top.elementId);
+        takeAway(outcome.ids, top.elementId);
         restore(outcome.ids, top.elementId);
         outcome.topBounds = top.after->boundingRect();
     } else {
-        remove(outcome.ids, top.elementId);
+        takeAway(outcome.ids, top.elementId);
     }
     return outcome;
 }
