@@ -54,13 +54,13 @@ bool ArrowElement::contains(const QPoint &point, int tolerance) const
 QRect ArrowElement::boundingRect() const
 {
     const qint64 margin = qint64(headLength()) + penWidth / 2;
-    return pointsRect(margin, 2 * margin);
+    return geometry::framed(pointsArea(), margin, 2 * margin);
 }
 
 QRect ArrowElement::paintedRect() const
 {
-    const QRectF shaft = geometry::spanningRect(start, end);
-    return geometry::enclosingRect(shaft | QPolygonF(head()).boundingRect(), penReach());
+    const QRectF area = pointsArea() | QPolygonF(head()).boundingRect();
+    return geometry::enclosingRect(area, penReach());
 }
 
 double ArrowElement::headLength() const

@@ -81,10 +81,7 @@ QRect FreehandElement::boundingRect() const
 {
     if (points.isEmpty())
         return {};
-    const QRectF area = pointsArea();
-    const qint64 half = penWidth / 2;
-    return geometry::saturatedRect(qint64(area.left()) - half, qint64(area.top()) - half,
-        qint64(area.width()) + penWidth, qint64(area.height()) + penWidth);
+    return geometry::framed(pointsArea(), penWidth / 2, penWidth);
 }
 
 QRect FreehandElement::paintedRect() const

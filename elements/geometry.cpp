@@ -95,11 +95,15 @@ QRect saturatedRect(qint64 left, qint64 top, qint64 width, qint64 height)
     return { QPoint(columns.from, rows.from), QPoint(columns.to, rows.to) };
 }
 
+QRect framed(const QRectF &area, qint64 before, qint64 extra)
+{
+    return saturatedRect(wholeEdge(area.left()) - before, wholeEdge(area.top()) - before,
+        wholeEdge(area.width()) + extra, wholeEdge(area.height()) + extra);
+}
+
 QRect grown(const QRect &rect, int margin)
 {
-    const qint64 both = 2 * qint64(margin);
-    return saturatedRect(qint64(rect.x()) - margin, qint64(rect.y()) - margin, rect.width() + both,
-        rect.height() + both);
+    return framed(QRectF(rect), margin, 2 * qint64(margin));
 }
 
 QRect enclosingRect(const QRectF &area, double margin)
@@ -109,11 +113,6 @@ QRect enclosingRect(const QRectF &area, double margin)
     const qint64 right = wholeEdge(std::ceil(area.right() + margin));
     const qint64 bottom = wholeEdge(std::ceil(area.bottom() + margin));
     return saturatedRect(left, top, right - left, bottom - top);
-}
-
-QRectF spanningRect(const QPointF &corner, const QPointF &opposite)
-{
-    return QRectF(corner, opposite).normalized();
 }
 
 double squaredLength(const QPointF &vector)

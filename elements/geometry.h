@@ -25,12 +25,12 @@ namespace geometry
 /// The rectangle with these edges and sizes. One that is wider or higher than `int` can tell loses
 /// as much on either side, so that its size and its centre can still be computed.
 [[nodiscard]] QRect saturatedRect(qint64 left, qint64 top, qint64 width, qint64 height);
+/// A rectangle of whole pixels moved up and left by `before` and made larger by `extra`.
+[[nodiscard]] QRect framed(const QRectF &area, qint64 before, qint64 extra);
 /// The rectangle with `margin` more on every side.
 [[nodiscard]] QRect grown(const QRect &rect, int margin);
 /// The smallest whole-pixel rectangle around `area` grown by `margin` on every side.
 [[nodiscard]] QRect enclosingRect(const QRectF &area, double margin);
-/// The rectangle with two opposite corners given in any order, without overflow.
-[[nodiscard]] QRectF spanningRect(const QPointF &corner, const QPointF &opposite);
 
 [[nodiscard]] double squaredLength(const QPointF &vector);
 [[nodiscard]] double squaredDistanceToSegment(

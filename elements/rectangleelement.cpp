@@ -1,7 +1,5 @@
 #include "elements/rectangleelement.h"
 
-#include "elements/geometry.h"
-
 #include <QPainter>
 
 #include <cmath>
@@ -16,13 +14,13 @@ void RectangleElement::paint(QPainter *painter) const
 {
     setUpPen(painter);
     painter->setBrush(QColor(Qt::transparent));
-    painter->drawRect(geometry::spanningRect(start, end));
+    painter->drawRect(pointsArea());
 }
 
 bool RectangleElement::contains(const QPoint &point, int tolerance) const
 {
     const QPointF p(point);
-    const QRectF outline = geometry::spanningRect(start, end);
+    const QRectF outline = pointsArea();
     const auto near = [tolerance](double value, double edge) {
         return std::abs(value - edge) <= tolerance;
     };

@@ -1,7 +1,9 @@
 #include "elements/textlayout.h"
 
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QPainterPath>
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
@@ -22,10 +24,13 @@ constexpr double kInkMarginShare = 0.1;
 
 QFont elementFont(int pointSize)
 {
-    QFont font(
-        QStringLiteral("Arial"), std::clamp(pointSize, kSmallestPointSize, kLargestPointSize));
-    font.setFamilies({ QStringLiteral("Arial"), QStringLiteral("Microsoft YaHei"),
-        QStringLiteral("Noto Sans CJK SC") });
+    const QString family = QStringLiteral("Arial");
+    QFont font(family, std::clamp(pointSize, kSmallestPointSize, kLargestPointSize));
+    // Where another family stands in for it, that one has to come before the families that only
+    // add Chinese: in a list, the stand-in would be looked for last.
+    static const QString standIn = QFontInfo(QFont(family)).family();
+    font.setFamilies(
+        { family, standIn, QStringLiteral("Microsoft YaHei"), QStringLiteral("Noto Sans CJK SC") });
     return font;
 }
 
@@ -72,9 +77,15 @@ void TextLayout::measure(const QString &line, const QFontMetrics &metrics, doubl
 {
     qint64 advance = 0;
     for (const QString &run : runsOf(line)) {
-        const QRectF ink(metrics.boundingRect(run));
+        const int width = metrics.horizontalAdvance(run);
+        // The outlines tell where stacked marks end, which the metrics do not know; the metrics
+        // tell the size of glyphs without outlines.
+        QPainterPath outlines;
+        outlines.addText(QPointF(), m_font, run);
+        QRectF ink(0, -m_ascent, width, m_lineHeight);
+        ink |= QRectF(metrics.boundingRect(run)) | outlines.controlPointRect();
         m_inkRect |= ink.translated(static_cast<double>(advance), baseline);
-        advance += metrics.horizontalAdvance(run);
+        advance += width;
     }
     m_blockWidth = std::max(m_blockWidth, advance);
 }

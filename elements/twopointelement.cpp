@@ -37,20 +37,17 @@ void TwoPointElement::scaleAxes(double factorX, double factorY, const QPoint &ce
 
 QRect TwoPointElement::boundingRect() const
 {
-    return pointsRect(penWidth / 2, penWidth);
+    return geometry::framed(pointsArea(), penWidth / 2, penWidth);
 }
 
 QRect TwoPointElement::paintedRect() const
 {
-    return geometry::enclosingRect(geometry::spanningRect(start, end), penReach());
+    return geometry::enclosingRect(pointsArea(), penReach());
 }
 
-QRect TwoPointElement::pointsRect(qint64 before, qint64 extra) const
+QRectF TwoPointElement::pointsArea() const
 {
-    const auto [left, right] = std::minmax<qint64>(start.x(), end.x());
-    const auto [top, bottom] = std::minmax<qint64>(start.y(), end.y());
-    return geometry::saturatedRect(
-        left - before, top - before, right - left + extra, bottom - top + extra);
+    return QRectF(QPointF(start), QPointF(end)).normalized();
 }
 
 std::optional<double> TwoPointElement::projection(const QPoint &point) const

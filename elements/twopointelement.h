@@ -22,8 +22,8 @@ protected:
     TwoPointElement(qint32 kind, const QPoint &startPoint, const QPoint &endPoint,
         const QColor &penColor, int width, double penOpacity);
 
-    /// The rectangle around both points, moved up and left by `before` and enlarged by `extra`.
-    QRect pointsRect(qint64 before, qint64 extra) const;
+    /// The rectangle between both points, in doubles so that it cannot overflow.
+    QRectF pointsArea() const;
     /// Where the point falls on the way from start (0) to end (1), unclamped; nothing when the
     /// points are less than a pixel apart. The way is measured in whole pixels, so the answer runs
     /// slightly ahead of the exact one.
