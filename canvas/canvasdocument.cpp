@@ -2,13 +2,14 @@
 
 #include "canvas/canvasevents.h"
 
-DrawingElement *CanvasDocument::addElement(ElementPtr element)
+void CanvasDocument::addElement(ElementPtr element)
 {
-    DrawingElement *added = elements.append(std::move(element));
-    history.push({ HistoryEntry::Add, added->id });
+    const QRect area = element->paintedRect();
+    history.push({ HistoryEntry::Add, element->id });
+    elements.append(std::move(element));
     history.clearRedo();
     reportBothStacks();
-    return added;
+    events.contentChanged(area);
 }
 
 void CanvasDocument::removeElement(int index)

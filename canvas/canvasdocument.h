@@ -23,9 +23,9 @@ public:
     explicit CanvasDocument(CanvasEvents &listener) : events(listener) { }
     Q_DISABLE_COPY_MOVE(CanvasDocument)
 
-    /// Puts a new element on top, records the addition and empties the redo stack.
-    /// Returns the element; the list owns it.
-    DrawingElement *addElement(ElementPtr element);
+    /// Puts a new element on top, records the addition, empties the redo stack and reports all of
+    /// it. Listeners may change the board at once: only an `ElementRef` still knows the element.
+    void addElement(ElementPtr element);
     /// Takes the element at `index` out of the list and records its removal as a `Delete`, which
     /// limits the history. Does not touch the redo stack.
     void removeElement(int index);

@@ -52,16 +52,18 @@ void Eraser::erase(const QPoint &previous, const QPoint &pos)
 {
     const int tolerance = geometry::saturated(2LL * m_document.pen.size);
     const std::vector<QPoint> samples = samplePath(previous, pos);
+    QRect area;
     for (int i = m_document.elements.size() - 1; i >= 0; --i) {
         const DrawingElement *element = m_document.elements.at(i);
         const bool touched = std::any_of(samples.begin(), samples.end(),
             [=](const QPoint &sample) { return element->contains(sample, tolerance); });
         if (touched)
-            eraseElement(i);
+            area |= eraseElement(i);
     }
+    m_document.events.contentChanged(area);
 }
 
-void Eraser::eraseElement(int index)
+QRect Eraser::eraseElement(int index)
 {
     ElementPtr element = m_document.elements.take(index);
     const QString id = element->id;
@@ -75,7 +77,7 @@ void Eraser::eraseElement(int index)
         m_document.history.push({ HistoryEntry::Erase, id, std::move(element) });
         m_document.events.undoStackChanged();
     }
-    m_document.events.contentChanged(area);
+    return area;
 }
 
 bool Eraser::deleteAt(const QPoint &pos, int tolerance)

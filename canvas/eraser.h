@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QRect>
 
 #include <vector>
 
@@ -22,7 +23,8 @@ public:
     bool deleteAt(const QPoint &pos, int tolerance);
 
 private:
-    void eraseElement(int index);
+    /// Returns the area that the element was painted in.
+    QRect eraseElement(int index);
 
     CanvasDocument &m_document;
 };

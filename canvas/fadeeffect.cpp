@@ -18,8 +18,7 @@ constexpr double kLowestOpacity = 0.01;
 FadeEffect::FadeEffect(CanvasDocument &document, QObject *parent)
     : QObject(parent), m_document(document), m_startOpacity(document.elements.at(kTarget)->opacity)
 {
-    qDebug() << CanvasLog::kFadeSteps << kSteps;
-    qDebug() << CanvasLog::kFadeOpacity << m_startOpacity;
+    qDebug() << CanvasLog::kFadeSteps << kSteps << CanvasLog::kFadeOpacity << m_startOpacity;
     connect(&m_timer, &QTimer::timeout, this, &FadeEffect::step);
     m_timer.start(kIntervalMs);
 }

@@ -58,7 +58,7 @@ void History::push(HistoryEntry entry)
 
 void History::trim()
 {
-    const int excess = undoCount() - kTrimmedSize;
+    const auto excess = static_cast<int>(m_undo.size()) - kTrimmedSize;
     if (excess > 0)
         m_undo.erase(m_undo.begin(), m_undo.begin() + excess);
 }
@@ -243,13 +243,13 @@ void History::redoEraserGroup(const HistoryEntry &entry, Step step)
     while (topIs(m_redo, HistoryEntry::Erase)) {
         HistoryEntry erased = takeTop(m_redo);
         qDebug() << CanvasLog::kGroupRemove << erased.elementId;
-        ElementPtr element = takeFrom(step.elements, erased.elementId, step.damage);
-        if (!element) {
+        if (ElementPtr element = takeFrom(step.elements, erased.elementId, step.damage))
+            erased.element = std::move(element);
+        else
             qDebug() << CanvasLog::kGroupElementMissing << erased.elementId;
-            continue;
-        }
-        erased.element = std::move(element);
-        m_undo.push_back(std::move(erased));
+        // As above: an element that is already with its entry stays there.
+        if (erased.element)
+            m_undo.push_back(std::move(erased));
     }
 }
 

@@ -30,8 +30,9 @@ public:
 
     [[nodiscard]] bool canUndo() const { return !m_undo.empty(); }
     [[nodiscard]] bool canRedo() const { return !m_redo.empty(); }
-    [[nodiscard]] int undoCount() const { return static_cast<int>(m_undo.size()); }
-    [[nodiscard]] int redoCount() const { return static_cast<int>(m_redo.size()); }
+    /// Both stacks with their tops last.
+    [[nodiscard]] const std::vector<HistoryEntry> &undoEntries() const { return m_undo; }
+    [[nodiscard]] const std::vector<HistoryEntry> &redoEntries() const { return m_redo; }
 
     void push(HistoryEntry entry);
     /// Drops the oldest entries, and the elements they own, down to `kTrimmedSize`.

@@ -2,6 +2,7 @@
 
 #include "canvas/fadeeffect.h"
 #include "canvas/logtexts.h"
+#include "elements/geometry.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -351,7 +352,7 @@ void MyPainter::contentChanged(const QRect &area)
 
 QSize MyPainter::canvasSize() const
 {
-    return { static_cast<int>(width()), static_cast<int>(height()) };
+    return { geometry::truncated(width()), geometry::truncated(height()) };
 }
 
 qreal MyPainter::pixelRatio() const

@@ -1,7 +1,6 @@
 #include "canvas/numberstamp.h"
 
 #include "canvas/canvasdocument.h"
-#include "canvas/canvasevents.h"
 #include "canvas/logtexts.h"
 #include "elements/numberedcircleelement.h"
 
@@ -11,10 +10,11 @@ void NumberStamp::stampAt(const QPoint &center)
 {
     ++m_lastNumber;
     const PenState &pen = m_document.pen;
-    const DrawingElement *circle = m_document.addElement(std::make_unique<NumberedCircleElement>(
-        center, m_lastNumber, pen.color, pen.size, pen.opacity));
-    m_document.events.contentChanged(circle->paintedRect());
-    qDebug() << CanvasLog::kNumberAdded << circle->id;
+    auto circle = std::make_unique<NumberedCircleElement>(
+        center, m_lastNumber, pen.color, pen.size, pen.opacity);
+    const QString id = circle->id;
+    m_document.addElement(std::move(circle));
+    qDebug() << CanvasLog::kNumberAdded << id;
 }
 
 void NumberStamp::stepBack()

@@ -56,10 +56,10 @@ void PenInput::move(const QPoint &pos, bool shiftPressed)
         eraseTo(previous, pos);
         return;
     }
+    // Every move counts twice; the curve looks the same for it, and strokes keep their shape.
     if (m_drawMode == DrawingElement::Freehand)
-        extendStroke();
-    else
-        shapeElement(snapped(pos, shiftPressed));
+        m_strokePoints.append(pos);
+    drawTo(snapped(pos, shiftPressed));
 }
 
 void PenInput::eraseTo(const QPoint &previous, const QPoint &pos)
@@ -71,45 +71,46 @@ void PenInput::eraseTo(const QPoint &previous, const QPoint &pos)
     m_eraser.erase(previous, pos);
 }
 
-void PenInput::extendStroke()
+void PenInput::drawTo(const QPoint &target)
 {
-    // Every move counts twice; the curve looks the same for it, and strokes keep their shape.
-    m_strokePoints.append(m_strokePoints.constLast());
     if (m_justBegun) {
-        const PenState &pen = m_document.pen;
-        auto stroke = std::make_unique<FreehandElement>(pen.color, pen.size, pen.opacity);
-        stroke->points = m_strokePoints;
-        startElement(std::move(stroke));
-    } else if (auto *stroke = dynamic_cast<FreehandElement *>(m_current.get())) {
-        const QRect before = stroke->paintedRect();
-        stroke->points = m_strokePoints;
-        stroke->path = QPainterPath();
-        m_document.events.contentChanged(before | stroke->paintedRect());
+        if (ElementPtr element = createElement(target)) {
+            m_justBegun = false;
+            m_current = ElementRef(element.get());
+            m_document.addElement(std::move(element));
+            return;
+        }
     }
+    m_document.events.contentChanged(reshape(target));
 }
 
-void PenInput::shapeElement(const QPoint &target)
+QRect PenInput::reshape(const QPoint &target)
 {
     DrawingElement *current = m_current.get();
-    if (!current) {
-        if (m_justBegun) {
-            if (ElementPtr shape = createShape(target))
-                startElement(std::move(shape));
-        }
-        return;
-    }
+    if (!current)
+        return {};
     const QRect before = current->paintedRect();
-    if (auto *circle = dynamic_cast<CircleElement *>(current))
+    if (auto *stroke = dynamic_cast<FreehandElement *>(current)) {
+        stroke->points = m_strokePoints;
+        stroke->rebuildPath(); // what can be seen can be hit, painted or not
+    } else if (auto *circle = dynamic_cast<CircleElement *>(current)) {
         circle->radius = distanceBetween(m_startPos, target);
-    else if (auto *shape = dynamic_cast<TwoPointElement *>(current))
+    } else if (auto *shape = dynamic_cast<TwoPointElement *>(current)) {
         shape->end = target;
-    m_document.events.contentChanged(before | current->paintedRect());
+    }
+    return before | current->paintedRect();
 }
 
-ElementPtr PenInput::createShape(const QPoint &target) const
+ElementPtr PenInput::createElement(const QPoint &target) const
 {
     const auto &[color, size, opacity] = m_document.pen;
     switch (m_drawMode) {
+    case DrawingElement::Freehand: {
+        auto stroke = std::make_unique<FreehandElement>(color, size, opacity);
+        stroke->points = m_strokePoints;
+        stroke->rebuildPath();
+        return stroke;
+    }
     case DrawingElement::Line:
         return std::make_unique<LineElement>(m_startPos, target, color, size, opacity);
     case DrawingElement::Circle:
@@ -120,7 +121,7 @@ ElementPtr PenInput::createShape(const QPoint &target) const
     case DrawingElement::Arrow:
         return std::make_unique<ArrowElement>(m_startPos, target, color, size, opacity);
     default:
-        return nullptr; // text and numbers are placed, not dragged
+        return nullptr;
     }
 }
 
@@ -133,45 +134,21 @@ QPoint PenInput::snapped(const QPoint &pos, bool shiftPressed) const
     return pos;
 }
 
-void PenInput::startElement(ElementPtr element)
-{
-    m_justBegun = false;
-    DrawingElement *started = m_document.addElement(std::move(element));
-    m_current = ElementRef(started);
-    m_document.events.contentChanged(started->paintedRect());
-}
-
 void PenInput::end(const QPoint &pos, bool shiftPressed)
 {
     if (m_drawMode == DrawingElement::NumberedCircle)
         return;
-    QString finishedId;
-    if (DrawingElement *current = m_current.get()) {
-        finishElement(pos, snapped(pos, shiftPressed));
-        finishedId = current->id;
-    }
+    if (!m_strokePoints.isEmpty() && m_strokePoints.constLast() != pos)
+        m_strokePoints.append(pos);
+    const QRect damage = reshape(snapped(pos, shiftPressed));
+    const QString finishedId = m_current ? m_current->id : QString();
     m_current.reset();
     m_strokePoints.clear();
-    m_document.events.contentChanged(QRect());
+    m_document.events.contentChanged(damage);
     if (!finishedId.isEmpty()) {
         qDebug() << CanvasLog::kElementAdded << finishedId;
         m_document.events.elementCompleted(finishedId);
     }
-}
-
-void PenInput::finishElement(const QPoint &pos, const QPoint &target)
-{
-    auto *stroke = dynamic_cast<FreehandElement *>(m_current.get());
-    if (!stroke) {
-        shapeElement(target);
-        return;
-    }
-    const QRect before = stroke->paintedRect();
-    if (!m_strokePoints.isEmpty() && m_strokePoints.constLast() != pos)
-        m_strokePoints.append(pos);
-    stroke->points = m_strokePoints;
-    stroke->path = QPainterPath();
-    m_document.events.contentChanged(before | stroke->paintedRect());
 }
 
 void PenInput::setDrawMode(int mode)

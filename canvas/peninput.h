@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QPoint>
+#include <QRect>
 
 class CanvasDocument;
 class Eraser;
@@ -31,12 +32,12 @@ public:
 
 private:
     void eraseTo(const QPoint &previous, const QPoint &pos);
-    void extendStroke();
-    void shapeElement(const QPoint &target);
-    [[nodiscard]] ElementPtr createShape(const QPoint &target) const;
+    void drawTo(const QPoint &target);
+    /// Gives the element in progress its geometry so far and returns the area that changed.
+    QRect reshape(const QPoint &target);
+    /// Null for tools whose marks are placed, not dragged.
+    [[nodiscard]] ElementPtr createElement(const QPoint &target) const;
     [[nodiscard]] QPoint snapped(const QPoint &pos, bool shiftPressed) const;
-    void startElement(ElementPtr element);
-    void finishElement(const QPoint &pos, const QPoint &target);
 
     CanvasDocument &m_document;
     Eraser &m_eraser;

@@ -86,22 +86,24 @@ QRectF Selection::boundingRect() const
 
 template <typename Change> void Selection::transform(DrawingElement &element, Change change)
 {
-    ElementPtr before = m_batchRunning ? nullptr : copyOf(&element);
+    const bool batched = m_batchStart && m_batchStart->id == element.id;
+    ElementPtr before = batched ? nullptr : copyOf(&element);
     QRect damage = element.paintedRect();
     change(element);
     damage |= element.paintedRect();
     if (before) {
-        record(element.id, std::move(before), element);
+        record(std::move(before), element);
         qDebug() << CanvasLog::kUndoNote;
     }
     m_document.events.contentChanged(damage);
 }
 
-void Selection::record(const QString &id, ElementPtr before, const DrawingElement &element)
+void Selection::record(ElementPtr before, const DrawingElement &element)
 {
+    const QString id = before->id;
     m_document.history.push(
         { HistoryEntry::Transform, id, nullptr, std::move(before), copyOf(&element) });
-    m_document.history.clearRedo();
+    m_document.history.clearRedo(); // may destroy the element, when only the redo stack held it
     m_document.reportBothStacks();
 }
 
@@ -166,37 +168,51 @@ void Selection::beginBatch()
         qDebug() << CanvasLog::kBatchNeedsSelection;
         return;
     }
-    if (m_batchRunning) {
+    if (m_batchStart && m_batchStart->id == selected->id) {
         qDebug() << CanvasLog::kBatchRunning;
         return;
     }
-    m_batchRunning = true;
-    m_batchStart = copyOf(selected);
-    qDebug() << CanvasLog::kBatchStarted << selected->id;
+    ElementPtr start = copyOf(selected);
+    if (const DrawingElement *left = batchElement())
+        finishBatch(*left);
+    m_batchStart = std::move(start);
+    qDebug() << CanvasLog::kBatchStarted << m_batchStart->id;
 }
 
 void Selection::endBatch()
 {
-    const DrawingElement *selected = element();
-    if (!m_batchRunning || !selected || !m_batchStart) {
+    const DrawingElement *changed = hasElement() ? batchElement() : nullptr;
+    if (changed)
+        finishBatch(*changed);
+    else
         qDebug() << CanvasLog::kBatchMissing;
-        return;
-    }
+}
+
+const DrawingElement *Selection::batchElement() const
+{
+    if (!m_batchStart)
+        return nullptr;
+    const DrawingElement *selected = element();
+    return selected && selected->id == m_batchStart->id
+        ? selected
+        : m_document.elements.find(m_batchStart->id);
+}
+
+void Selection::finishBatch(const DrawingElement &changed)
+{
     ElementPtr start = std::move(m_batchStart);
-    if (start->boundingRect() == selected->boundingRect()) {
-        qDebug() << CanvasLog::kBatchUnchanged << selected->id;
-        m_batchRunning = false;
+    const QString id = start->id;
+    if (start->boundingRect() == changed.boundingRect()) {
+        qDebug() << CanvasLog::kBatchUnchanged << id;
         return;
     }
-    record(selected->id, std::move(start), *selected);
-    qDebug() << CanvasLog::kBatchEnded << selected->id;
-    m_batchRunning = false;
+    record(std::move(start), changed);
+    qDebug() << CanvasLog::kBatchEnded << id;
 }
 
 void Selection::reset()
 {
     m_element.reset();
     m_elementId.clear();
-    m_batchRunning = false;
     m_batchStart.reset();
 }

@@ -45,11 +45,13 @@ private:
     [[nodiscard]] DrawingElement *elementToTransform() const;
     void select(DrawingElement *element);
     template <typename Change> void transform(DrawingElement &element, Change change);
-    void record(const QString &id, ElementPtr before, const DrawingElement &element);
+    void record(ElementPtr before, const DrawingElement &element);
+    /// The element that the running batch began with, whatever is selected by now; or null.
+    [[nodiscard]] const DrawingElement *batchElement() const;
+    void finishBatch(const DrawingElement &changed);
 
     CanvasDocument &m_document;
     mutable ElementRef m_element;
     QString m_elementId;
-    bool m_batchRunning = false;
-    ElementPtr m_batchStart;
+    ElementPtr m_batchStart; ///< while a batch runs: its element as it was
 };

@@ -86,8 +86,8 @@ void TextPlacement::placePrepared(const QString &text, const QPoint &pos, int fo
 QString TextPlacement::add(const QString &text, const QPoint &pos, int fontSize)
 {
     const auto &[color, size, opacity] = m_document.pen;
-    const DrawingElement *element = m_document.addElement(
-        std::make_unique<TextElement>(pos, text, fontSize, color, size, opacity));
-    m_document.events.contentChanged(element->paintedRect());
-    return element->id;
+    auto element = std::make_unique<TextElement>(pos, text, fontSize, color, size, opacity);
+    const QString id = element->id;
+    m_document.addElement(std::move(element));
+    return id;
 }

@@ -93,6 +93,11 @@ QRect FreehandElement::paintedRect() const
     return geometry::enclosingRect(area, penReach());
 }
 
+void FreehandElement::rebuildPath()
+{
+    path = smoothedPath();
+}
+
 QRectF FreehandElement::pointsArea() const
 {
     const auto byX = [](const QPoint &a, const QPoint &b) { return a.x() < b.x(); };
@@ -122,5 +127,5 @@ QPainterPath FreehandElement::smoothedPath() const
 template <typename Transform> void FreehandElement::transformPoints(Transform transform)
 {
     std::transform(points.cbegin(), points.cend(), points.begin(), transform);
-    path = smoothedPath();
+    rebuildPath();
 }

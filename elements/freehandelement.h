@@ -20,6 +20,8 @@ public:
     QRect boundingRect() const override;
     void scaleAxes(double factorX, double factorY, const QPoint &center) override;
     QRect paintedRect() const override;
+    /// Builds the curve anew from the points.
+    void rebuildPath();
 
     QList<QPoint> points;
     /// The smoothed curve; empty means that it has not been built yet. Whoever changes `points`
