@@ -1,10 +1,10 @@
 #include "app/identity.h"
 #include "app/interfacelanguage.h"
-#include "app/logtexts.h"
 #include "app/rendering.h"
 #include "app/renderingprobe.h"
 #include "app/singleinstance.h"
 #include "app/startup.h"
+#include "app/systemtray.h"
 #include "app/trayicon.h"
 #include "platform/terminationrequest.h"
 #include "platform/windowsystem.h"
@@ -13,7 +13,6 @@
 #include "settings/translation.h"
 
 #include <QApplication>
-#include <QDebug>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
 
@@ -29,8 +28,8 @@ int runInterface(QApplication &application, SingleInstance &instance)
 {
     Startup::setIdentity();
     QQuickStyle::setStyle(QLatin1String(Identity::kControlsStyle));
-    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
-        qDebug() << StartupLogTexts::kNoSystemTray;
+    if (!waitForSystemTray()) {
+        reportNoSystemTray(application);
         return kExitNoTray;
     }
     const TerminationRequest terminationRequest;

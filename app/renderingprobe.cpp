@@ -2,8 +2,8 @@
 
 #include "app/logtexts.h"
 
-#include <QGuiApplication>
 #include <QDebug>
+#include <QGuiApplication>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>

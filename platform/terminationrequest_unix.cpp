@@ -7,12 +7,13 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-namespace {
+namespace
+{
 
-constexpr std::array kSignals { SIGTERM, SIGINT, SIGHUP };
+constexpr std::array kSignals{ SIGTERM, SIGINT, SIGHUP };
 
 /// A signal handler may do little more than write; the event loop reads at the other end.
-std::array<int, 2> s_sockets { -1, -1 };
+std::array<int, 2> s_sockets{ -1, -1 };
 
 void writeToEventLoop(int /*signal*/)
 {
@@ -22,7 +23,8 @@ void writeToEventLoop(int /*signal*/)
 
 void setHandlers(void (*handler)(int))
 {
-    struct sigaction action {};
+    struct sigaction action {
+    };
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART;
     for (const int signal : kSignals) {

@@ -64,6 +64,10 @@
         <source>退出</source>
         <translation>Exit</translation>
     </message>
+    <message>
+        <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</source>
+        <translation>This desktop has no system tray, so Dravelin cannot run. Turn on the notification area of your panel and start it again.</translation>
+    </message>
 </context>
 <context>
     <name>painter</name>

@@ -64,6 +64,10 @@
         <source>退出</source>
         <translation>退出</translation>
     </message>
+    <message>
+        <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</source>
+        <translation>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</translation>
+    </message>
 </context>
 <context>
     <name>painter</name>
