@@ -1,17 +1,18 @@
 #include "app/identity.h"
-#include "app/logtexts.h"
+#include "app/interfacelanguage.h"
 #include "app/rendering.h"
 #include "app/renderingprobe.h"
 #include "app/singleinstance.h"
 #include "app/startup.h"
+#include "app/systemtray.h"
 #include "app/trayicon.h"
+#include "platform/terminationrequest.h"
 #include "platform/windowsystem.h"
 #include "settings/settingsclazz.h"
 #include "settings/settingskeys.h"
 #include "settings/translation.h"
 
 #include <QApplication>
-#include <QDebug>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
 
@@ -27,14 +28,20 @@ int runInterface(QApplication &application, SingleInstance &instance)
 {
     Startup::setIdentity();
     QQuickStyle::setStyle(QLatin1String(Identity::kControlsStyle));
-    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
-        qDebug() << StartupLogTexts::kNoSystemTray;
+    if (!waitForSystemTray()) {
+        reportNoSystemTray(application);
         return kExitNoTray;
     }
+    const TerminationRequest terminationRequest;
+    QObject::connect(&terminationRequest, &TerminationRequest::received, &application,
+        &QCoreApplication::quit, Qt::QueuedConnection);
+    // The tray is the way out, also while every window is hidden.
+    QApplication::setQuitOnLastWindowClosed(false);
     const QString language = Startup::chooseLanguage();
 
     QQmlApplicationEngine engine;
     engine.addImportPath(QLatin1String(Identity::kQmlModulesInResources));
+    const InterfaceLanguage interfaceLanguage;
     loadTranslation(&application, language);
     Startup::publishToDocuments(*engine.rootContext());
 
@@ -42,6 +49,10 @@ int runInterface(QApplication &application, SingleInstance &instance)
     QObject::connect(
         &engine, &QQmlApplicationEngine::objectCreated, &application,
         [&tray](QObject *object) { tray.adopt(object); }, Qt::QueuedConnection);
+    QObject::connect(
+        &interfaceLanguage, &InterfaceLanguage::textsChanged, &engine, &QQmlEngine::retranslate);
+    QObject::connect(
+        &interfaceLanguage, &InterfaceLanguage::textsChanged, &tray, &TrayIcon::retranslate);
     QObject::connect(&instance, &SingleInstance::startedAgain, &tray, &TrayIcon::showWindow);
     tray.show();
     engine.load(QUrl(QLatin1String(Identity::kRootDocument)));
@@ -60,8 +71,7 @@ int main(int argc, char *argv[])
     Startup::requestTranslucentWindows();
     qputenv("QT_OPENGL", "desktop");
 
-    const RenderingProbe probe(argc, argv);
-    const Rendering rendering = probe.decide();
+    const Rendering rendering = probeRendering(argc, argv);
     SettingsClazz settings;
     applyRendering(rendering);
     settings.setIniValue(QLatin1String(SettingsKeys::kIniRenderingGroup),

@@ -3,6 +3,7 @@
 #include "app/logtexts.h"
 
 #include <QDebug>
+#include <QGuiApplication>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
@@ -35,12 +36,16 @@ Rendering judge(const QOpenGLContext &context)
 
 } // namespace
 
-RenderingProbe::RenderingProbe(int &argc, char **argv) : m_application(argc, argv)
+Rendering probeRendering(int &argc, char **argv)
 {
-}
+    // The main application object takes over this one's connection to the window system and its
+    // event dispatcher, and ends both. Ending this one afterwards would use them once more, so it
+    // is never destroyed. It has no widgets either: the tables that Qt keeps of those would be
+    // set up twice and the first ones lost.
+    [[maybe_unused]] static const auto *const application = new QGuiApplication(argc, argv);
 
-Rendering RenderingProbe::decide() const
-{
+    // For the same reason nothing that draws may outlive this function: a context that is
+    // destroyed after the connection crashes.
     Rendering rendering = Rendering::Software;
     {
         QOffscreenSurface surface;
@@ -51,6 +56,6 @@ Rendering RenderingProbe::decide() const
             context.doneCurrent();
         }
     }
-    QApplication::quit();
+    QGuiApplication::quit();
     return rendering;
 }

@@ -1,0 +1,5 @@
+#include "platform/desktopnotice.h"
+
+void showDesktopNotice(const QString & /*title*/, const QString & /*text*/)
+{
+}

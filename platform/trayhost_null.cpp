@@ -1,0 +1,6 @@
+#include "platform/trayhost.h"
+
+bool trayHostIsPresent()
+{
+    return true;
+}

@@ -1,0 +1,564 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="zh_CN">
+<context>
+    <name>AboutWindow</name>
+    <message>
+        <source>关于</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>版本 %1 · 界面 %2</source>
+        <translation>Version %1 · Interface %2</translation>
+    </message>
+    <message>
+        <source>第三方组件及许可</source>
+        <translation>Third-party components and licenses</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>Help</translation>
+    </message>
+</context>
+<context>
+    <name>CloseButton</name>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>DragHandle</name>
+    <message>
+        <source>移动工具栏</source>
+        <translation>Move the toolbar</translation>
+    </message>
+</context>
+<context>
+    <name>FluInfoBarItem</name>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>FluShortcutPicker</name>
+    <message>
+        <source>Conflict</source>
+        <translation>Conflict</translation>
+    </message>
+</context>
+<context>
+    <name>FluTextBox</name>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+</context>
+<context>
+    <name>FluTextMenu</name>
+    <message>
+        <source>Cut</source>
+        <translation>Cut</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Select all</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayDialogs</name>
+    <message>
+        <source>请选择一个文件</source>
+        <translation>Choose a file</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayWindow</name>
+    <message>
+        <source>图片已保存</source>
+        <translation>Picture saved</translation>
+    </message>
+    <message>
+        <source>图片未能保存</source>
+        <translation>The picture could not be saved</translation>
+    </message>
+    <message>
+        <source>绘制窗口</source>
+        <translation>Drawing window</translation>
+    </message>
+    <message>
+        <source>桌面没有运行合成器：您将在静止的屏幕画面上绘制</source>
+        <translation>No compositor is running: you draw on a still picture of the screen</translation>
+    </message>
+    <message>
+        <source>Ctrl+鼠标滚轮:缩放图片</source>
+        <translation>Ctrl+wheel: scale the picture</translation>
+    </message>
+    <message>
+        <source>Ctrl+鼠标移动:拖动图片</source>
+        <translation>Ctrl+drag: move the picture</translation>
+    </message>
+    <message>
+        <source>无法打开图片</source>
+        <translation>The picture cannot be opened</translation>
+    </message>
+    <message>
+        <source>创建文本输入框失败，请确认TextEditBox.qml文件存在</source>
+        <translation>The text editor could not be created. Make sure that TextEditBox.qml exists.</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteButton</name>
+    <message>
+        <source>按左右方向键打开选项</source>
+        <translation>Press Left or Right to open the choices</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteHotkeys</name>
+    <message>
+        <source>截屏</source>
+        <translation>Screenshot</translation>
+    </message>
+    <message>
+        <source>确认变换</source>
+        <translation>Confirm the change</translation>
+    </message>
+    <message>
+        <source>橡皮擦</source>
+        <translation>Eraser</translation>
+    </message>
+    <message>
+        <source>画笔</source>
+        <translation>Pen</translation>
+    </message>
+    <message>
+        <source>退出绘制模式</source>
+        <translation>Leave drawing mode</translation>
+    </message>
+    <message>
+        <source>文字</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>清除画布</source>
+        <translation>Clear the canvas</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>恢复</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>直线模式</source>
+        <translation>Line mode</translation>
+    </message>
+    <message>
+        <source>圆形模式</source>
+        <translation>Circle mode</translation>
+    </message>
+    <message>
+        <source>矩形模式</source>
+        <translation>Rectangle mode</translation>
+    </message>
+    <message>
+        <source>箭头模式</source>
+        <translation>Arrow mode</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteSheet</name>
+    <message>
+        <source>展开</source>
+        <translation>Expand</translation>
+    </message>
+    <message>
+        <source>收起</source>
+        <translation>Collapse</translation>
+    </message>
+    <message>
+        <source>鼠标</source>
+        <translation>Mouse</translation>
+    </message>
+    <message>
+        <source>画笔</source>
+        <translation>Pen</translation>
+    </message>
+    <message>
+        <source>橡皮擦</source>
+        <translation>Eraser</translation>
+    </message>
+    <message>
+        <source>清除画布</source>
+        <translation>Clear the canvas</translation>
+    </message>
+    <message>
+        <source>画板</source>
+        <translation>Board</translation>
+    </message>
+    <message>
+        <source>截屏</source>
+        <translation>Screenshot</translation>
+    </message>
+    <message>
+        <source>录屏</source>
+        <translation>Record the screen</translation>
+    </message>
+    <message>
+        <source>停止录屏</source>
+        <translation>Stop recording</translation>
+    </message>
+    <message>
+        <source>画笔颜色</source>
+        <translation>Pen color</translation>
+    </message>
+    <message>
+        <source>画笔粗细</source>
+        <translation>Pen thickness</translation>
+    </message>
+    <message>
+        <source>自动消失</source>
+        <translation>Fade out</translation>
+    </message>
+    <message>
+        <source>呼吸效果</source>
+        <translation>Breathing effect</translation>
+    </message>
+    <message>
+        <source>菜单</source>
+        <translation>Menu</translation>
+    </message>
+</context>
+<context>
+    <name>PictureExport</name>
+    <message>
+        <source>画布上没有内容，无需保存</source>
+        <translation>There is nothing on the canvas to save.</translation>
+    </message>
+    <message>
+        <source>无法写入 %1：%2</source>
+        <translation>%1 cannot be written: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenCapture</name>
+    <message>
+        <source>没有设置截图文件夹，请在设置中选择</source>
+        <translation>No screenshot folder is set. Choose one in the settings.</translation>
+    </message>
+    <message>
+        <source>无法创建截图文件夹 %1，请在设置中另选一个</source>
+        <translation>The screenshot folder %1 cannot be created. Choose another one in the settings.</translation>
+    </message>
+    <message>
+        <source>找不到显示器，无法截图</source>
+        <translation>No screenshot: there is no screen.</translation>
+    </message>
+    <message>
+        <source>截图无法保存到 %1，请检查文件夹权限和磁盘空间</source>
+        <translation>The screenshot could not be saved in %1. Check the folder&apos;s permissions and the free disk space.</translation>
+    </message>
+    <message>
+        <source>选择的区域太小，请重新选择</source>
+        <translation>The selected area is too small. Select another one.</translation>
+    </message>
+    <message>
+        <source>选择的区域超出主屏幕，请重新选择</source>
+        <translation>The selected area reaches beyond the primary screen. Select another one.</translation>
+    </message>
+    <message>
+        <source>系统不允许读取屏幕，无法截图</source>
+        <translation>No screenshot: the system does not let programs read the screen.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectionFrame</name>
+    <message>
+        <source>按ESC键隐藏控制点</source>
+        <translation>Press Esc to hide the handles</translation>
+    </message>
+    <message>
+        <source>拖动可移动元素</source>
+        <translation>Drag to move the mark</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsClazz</name>
+    <message>
+        <source>选择保存目录</source>
+        <translation>Choose the folder for screenshots</translation>
+    </message>
+</context>
+<context>
+    <name>TextEditBox</name>
+    <message>
+        <source>Ctrl+滚轮调整字体|Ctrl+Enter换行|ESC:取消</source>
+        <translation>Ctrl+wheel: font size | Ctrl+Enter: new line | Esc: cancel</translation>
+    </message>
+</context>
+<context>
+    <name>ToolController</name>
+    <message>
+        <source>Shit+绘制:绘制90°,45°,180°直线</source>
+        <translation>Shift+draw: lines at 90°, 45° and 180°</translation>
+    </message>
+    <message>
+        <source>Shit+绘制:绘制正方形</source>
+        <translation>Shift+draw: a square</translation>
+    </message>
+</context>
+<context>
+    <name>ToolNames</name>
+    <message>
+        <source>关于</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <source>画笔</source>
+        <translation>Pen</translation>
+    </message>
+    <message>
+        <source>荧光笔</source>
+        <translation>Highlighter</translation>
+    </message>
+    <message>
+        <source>文字</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>直线</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>圆形</source>
+        <translation>Circle</translation>
+    </message>
+    <message>
+        <source>箭头</source>
+        <translation>Arrow</translation>
+    </message>
+    <message>
+        <source>矩形</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>编号</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>恢复</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>透明画板</source>
+        <translation>See-through board</translation>
+    </message>
+    <message>
+        <source>白板</source>
+        <translation>Whiteboard</translation>
+    </message>
+    <message>
+        <source>黑板</source>
+        <translation>Blackboard</translation>
+    </message>
+    <message>
+        <source>图片背景</source>
+        <translation>Picture background</translation>
+    </message>
+    <message>
+        <source>细</source>
+        <translation>Thin</translation>
+    </message>
+    <message>
+        <source>中</source>
+        <translation>Medium</translation>
+    </message>
+    <message>
+        <source>粗</source>
+        <translation>Thick</translation>
+    </message>
+    <message>
+        <source>特粗</source>
+        <translation>Extra thick</translation>
+    </message>
+    <message>
+        <source>不自动消失</source>
+        <translation>Marks stay</translation>
+    </message>
+    <message>
+        <source>不呼吸</source>
+        <translation>No breathing</translation>
+    </message>
+    <message>
+        <source>每 %1 秒消失一笔</source>
+        <translation>One mark fades every %1 s</translation>
+    </message>
+    <message>
+        <source>呼吸 %1 秒</source>
+        <translation>Breathe for %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDownloader</name>
+    <message>
+        <source>无法创建临时文件：%1</source>
+        <translation>A temporary file cannot be created: %1</translation>
+    </message>
+    <message>
+        <source>“%1”的下载地址不安全：只允许 HTTPS。</source>
+        <translation>The download address of “%1” is not safe: only HTTPS is allowed.</translation>
+    </message>
+    <message>
+        <source>“%1”过大。</source>
+        <translation>“%1” is too large.</translation>
+    </message>
+    <message>
+        <source>无法写入临时文件：%1</source>
+        <translation>The temporary file cannot be written: %1</translation>
+    </message>
+    <message>
+        <source>“%1”下载失败：%2</source>
+        <translation>“%1” could not be downloaded: %2</translation>
+    </message>
+    <message>
+        <source>“%1”与校验值不符，已丢弃。</source>
+        <translation>“%1” does not match its checksum and was discarded.</translation>
+    </message>
+    <message>
+        <source>无法把“%1”写入程序文件夹，请检查写权限和剩余空间。</source>
+        <translation>“%1” cannot be written to the program&apos;s folder. Check the permissions and the free space.</translation>
+    </message>
+    <message>
+        <source>找不到更新程序“%1”。</source>
+        <translation>The updater “%1” is missing.</translation>
+    </message>
+    <message>
+        <source>更新程序“%1”无法运行。</source>
+        <translation>The updater “%1” cannot be run.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>软件更新</source>
+        <translation>Software update</translation>
+    </message>
+    <message>
+        <source>发现新版本 %1</source>
+        <translation>Version %1 is available</translation>
+    </message>
+    <message>
+        <source>当前版本 %1</source>
+        <translation>You have version %1</translation>
+    </message>
+    <message>
+        <source>正在安装…</source>
+        <translation>Installing…</translation>
+    </message>
+    <message>
+        <source>正在下载… %1%</source>
+        <translation>Downloading… %1%</translation>
+    </message>
+    <message>
+        <source>已取消下载，没有更改任何文件。</source>
+        <translation>The download was canceled. No file was changed.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>以后再说</source>
+        <translation>Later</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>Try again</translation>
+    </message>
+    <message>
+        <source>立即更新</source>
+        <translation>Update now</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateOffer</name>
+    <message>
+        <source>更新服务没有提供任何文件。</source>
+        <translation>The update service offered no files.</translation>
+    </message>
+    <message>
+        <source>文件名“%1”不允许使用：它会离开程序文件夹。</source>
+        <translation>The file name “%1” is not allowed: it leads out of the program&apos;s folder.</translation>
+    </message>
+    <message>
+        <source>“%1”的下载地址不安全：只允许 HTTPS。</source>
+        <translation>The download address of “%1” is not safe: only HTTPS is allowed.</translation>
+    </message>
+    <message>
+        <source>“%1”没有有效的 SHA-256 校验值。</source>
+        <translation>“%1” has no valid SHA-256 checksum.</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>显示</source>
+        <translation>Show</translation>
+    </message>
+    <message>
+        <source>隐藏</source>
+        <translation>Hide</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</source>
+        <translation>This desktop has no system tray, so Dravelin cannot run. Turn on the notification area of your panel and start it again.</translation>
+    </message>
+</context>
+<context>
+    <name>painter</name>
+    <message>
+        <source>主窗口</source>
+        <translation>Main window</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,564 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="zh_CN">
+<context>
+    <name>AboutWindow</name>
+    <message>
+        <source>关于</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>版本 %1 · 界面 %2</source>
+        <translation>バージョン %1 · 画面 %2</translation>
+    </message>
+    <message>
+        <source>第三方组件及许可</source>
+        <translation>サードパーティ製コンポーネントとライセンス</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>ヘルプ</translation>
+    </message>
+</context>
+<context>
+    <name>CloseButton</name>
+    <message>
+        <source>关闭</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>DragHandle</name>
+    <message>
+        <source>移动工具栏</source>
+        <translation>ツールバーを移動</translation>
+    </message>
+</context>
+<context>
+    <name>FluInfoBarItem</name>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>FluShortcutPicker</name>
+    <message>
+        <source>Conflict</source>
+        <translation>競合</translation>
+    </message>
+</context>
+<context>
+    <name>FluTextBox</name>
+    <message>
+        <source>Clear</source>
+        <translation>クリア</translation>
+    </message>
+</context>
+<context>
+    <name>FluTextMenu</name>
+    <message>
+        <source>Cut</source>
+        <translation>切り取り</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>貼り付け</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayDialogs</name>
+    <message>
+        <source>请选择一个文件</source>
+        <translation>ファイルを選択してください</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayWindow</name>
+    <message>
+        <source>图片已保存</source>
+        <translation>画像を保存しました</translation>
+    </message>
+    <message>
+        <source>图片未能保存</source>
+        <translation>画像を保存できませんでした</translation>
+    </message>
+    <message>
+        <source>绘制窗口</source>
+        <translation>描画ウィンドウ</translation>
+    </message>
+    <message>
+        <source>桌面没有运行合成器：您将在静止的屏幕画面上绘制</source>
+        <translation>コンポジターが動作していないため、静止した画面の上に描画します</translation>
+    </message>
+    <message>
+        <source>Ctrl+鼠标滚轮:缩放图片</source>
+        <translation>Ctrl+ホイール: 画像を拡大・縮小</translation>
+    </message>
+    <message>
+        <source>Ctrl+鼠标移动:拖动图片</source>
+        <translation>Ctrl+ドラッグ: 画像を移動</translation>
+    </message>
+    <message>
+        <source>无法打开图片</source>
+        <translation>画像を開けません</translation>
+    </message>
+    <message>
+        <source>创建文本输入框失败，请确认TextEditBox.qml文件存在</source>
+        <translation>テキスト入力欄を作成できません。TextEditBox.qml があることを確認してください。</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteButton</name>
+    <message>
+        <source>按左右方向键打开选项</source>
+        <translation>左右の矢印キーで選択肢を開く</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteHotkeys</name>
+    <message>
+        <source>截屏</source>
+        <translation>スクリーンショット</translation>
+    </message>
+    <message>
+        <source>确认变换</source>
+        <translation>変形を確定</translation>
+    </message>
+    <message>
+        <source>橡皮擦</source>
+        <translation>消しゴム</translation>
+    </message>
+    <message>
+        <source>画笔</source>
+        <translation>ペン</translation>
+    </message>
+    <message>
+        <source>退出绘制模式</source>
+        <translation>描画モードを終了</translation>
+    </message>
+    <message>
+        <source>文字</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>清除画布</source>
+        <translation>すべて消去</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>恢复</source>
+        <translation>やり直し</translation>
+    </message>
+    <message>
+        <source>直线模式</source>
+        <translation>直線モード</translation>
+    </message>
+    <message>
+        <source>圆形模式</source>
+        <translation>円モード</translation>
+    </message>
+    <message>
+        <source>矩形模式</source>
+        <translation>四角形モード</translation>
+    </message>
+    <message>
+        <source>箭头模式</source>
+        <translation>矢印モード</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteSheet</name>
+    <message>
+        <source>展开</source>
+        <translation>展開</translation>
+    </message>
+    <message>
+        <source>收起</source>
+        <translation>折りたたむ</translation>
+    </message>
+    <message>
+        <source>鼠标</source>
+        <translation>マウス</translation>
+    </message>
+    <message>
+        <source>画笔</source>
+        <translation>ペン</translation>
+    </message>
+    <message>
+        <source>橡皮擦</source>
+        <translation>消しゴム</translation>
+    </message>
+    <message>
+        <source>清除画布</source>
+        <translation>すべて消去</translation>
+    </message>
+    <message>
+        <source>画板</source>
+        <translation>ボード</translation>
+    </message>
+    <message>
+        <source>截屏</source>
+        <translation>スクリーンショット</translation>
+    </message>
+    <message>
+        <source>录屏</source>
+        <translation>画面を録画</translation>
+    </message>
+    <message>
+        <source>停止录屏</source>
+        <translation>録画を停止</translation>
+    </message>
+    <message>
+        <source>画笔颜色</source>
+        <translation>ペンの色</translation>
+    </message>
+    <message>
+        <source>画笔粗细</source>
+        <translation>ペンの太さ</translation>
+    </message>
+    <message>
+        <source>自动消失</source>
+        <translation>自動で消す</translation>
+    </message>
+    <message>
+        <source>呼吸效果</source>
+        <translation>点滅効果</translation>
+    </message>
+    <message>
+        <source>菜单</source>
+        <translation>メニュー</translation>
+    </message>
+</context>
+<context>
+    <name>PictureExport</name>
+    <message>
+        <source>画布上没有内容，无需保存</source>
+        <translation>キャンバスに保存する内容がありません。</translation>
+    </message>
+    <message>
+        <source>无法写入 %1：%2</source>
+        <translation>%1 に書き込めません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenCapture</name>
+    <message>
+        <source>没有设置截图文件夹，请在设置中选择</source>
+        <translation>スクリーンショットの保存先が設定されていません。設定で選択してください。</translation>
+    </message>
+    <message>
+        <source>无法创建截图文件夹 %1，请在设置中另选一个</source>
+        <translation>スクリーンショットの保存先 %1 を作成できません。設定で別のフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>找不到显示器，无法截图</source>
+        <translation>画面が見つからないため、スクリーンショットを撮れません。</translation>
+    </message>
+    <message>
+        <source>截图无法保存到 %1，请检查文件夹权限和磁盘空间</source>
+        <translation>スクリーンショットを %1 に保存できません。フォルダーの権限とディスクの空き容量を確認してください。</translation>
+    </message>
+    <message>
+        <source>选择的区域太小，请重新选择</source>
+        <translation>選択範囲が小さすぎます。選択し直してください。</translation>
+    </message>
+    <message>
+        <source>选择的区域超出主屏幕，请重新选择</source>
+        <translation>選択範囲がメイン画面からはみ出しています。選択し直してください。</translation>
+    </message>
+    <message>
+        <source>系统不允许读取屏幕，无法截图</source>
+        <translation>システムが画面の読み取りを許可していないため、スクリーンショットを撮れません。</translation>
+    </message>
+</context>
+<context>
+    <name>SelectionFrame</name>
+    <message>
+        <source>按ESC键隐藏控制点</source>
+        <translation>Esc キーでハンドルを非表示</translation>
+    </message>
+    <message>
+        <source>拖动可移动元素</source>
+        <translation>ドラッグして移動</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsClazz</name>
+    <message>
+        <source>选择保存目录</source>
+        <translation>保存先フォルダーの選択</translation>
+    </message>
+</context>
+<context>
+    <name>TextEditBox</name>
+    <message>
+        <source>Ctrl+滚轮调整字体|Ctrl+Enter换行|ESC:取消</source>
+        <translation>Ctrl+ホイール: 文字サイズ | Ctrl+Enter: 改行 | Esc: 取消</translation>
+    </message>
+</context>
+<context>
+    <name>ToolController</name>
+    <message>
+        <source>Shit+绘制:绘制90°,45°,180°直线</source>
+        <translation>Shift+描画: 90°、45°、180° の直線</translation>
+    </message>
+    <message>
+        <source>Shit+绘制:绘制正方形</source>
+        <translation>Shift+描画: 正方形</translation>
+    </message>
+</context>
+<context>
+    <name>ToolNames</name>
+    <message>
+        <source>关于</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>画笔</source>
+        <translation>ペン</translation>
+    </message>
+    <message>
+        <source>荧光笔</source>
+        <translation>蛍光ペン</translation>
+    </message>
+    <message>
+        <source>文字</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>直线</source>
+        <translation>直線</translation>
+    </message>
+    <message>
+        <source>圆形</source>
+        <translation>円</translation>
+    </message>
+    <message>
+        <source>箭头</source>
+        <translation>矢印</translation>
+    </message>
+    <message>
+        <source>矩形</source>
+        <translation>四角形</translation>
+    </message>
+    <message>
+        <source>编号</source>
+        <translation>番号</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>恢复</source>
+        <translation>やり直し</translation>
+    </message>
+    <message>
+        <source>透明画板</source>
+        <translation>透明ボード</translation>
+    </message>
+    <message>
+        <source>白板</source>
+        <translation>ホワイトボード</translation>
+    </message>
+    <message>
+        <source>黑板</source>
+        <translation>黒板</translation>
+    </message>
+    <message>
+        <source>图片背景</source>
+        <translation>背景画像</translation>
+    </message>
+    <message>
+        <source>细</source>
+        <translation>細い</translation>
+    </message>
+    <message>
+        <source>中</source>
+        <translation>普通</translation>
+    </message>
+    <message>
+        <source>粗</source>
+        <translation>太い</translation>
+    </message>
+    <message>
+        <source>特粗</source>
+        <translation>極太</translation>
+    </message>
+    <message>
+        <source>不自动消失</source>
+        <translation>自動で消さない</translation>
+    </message>
+    <message>
+        <source>不呼吸</source>
+        <translation>点滅しない</translation>
+    </message>
+    <message>
+        <source>每 %1 秒消失一笔</source>
+        <translation>%1 秒ごとに 1 つ消す</translation>
+    </message>
+    <message>
+        <source>呼吸 %1 秒</source>
+        <translation>%1 秒点滅</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDownloader</name>
+    <message>
+        <source>无法创建临时文件：%1</source>
+        <translation>一時ファイルを作成できません: %1</translation>
+    </message>
+    <message>
+        <source>“%1”的下载地址不安全：只允许 HTTPS。</source>
+        <translation>「%1」のダウンロード先は安全ではありません。HTTPS のみ使用できます。</translation>
+    </message>
+    <message>
+        <source>“%1”过大。</source>
+        <translation>「%1」は大きすぎます。</translation>
+    </message>
+    <message>
+        <source>无法写入临时文件：%1</source>
+        <translation>一時ファイルに書き込めません: %1</translation>
+    </message>
+    <message>
+        <source>“%1”下载失败：%2</source>
+        <translation>「%1」をダウンロードできません: %2</translation>
+    </message>
+    <message>
+        <source>“%1”与校验值不符，已丢弃。</source>
+        <translation>「%1」はチェックサムと一致しないため破棄しました。</translation>
+    </message>
+    <message>
+        <source>无法把“%1”写入程序文件夹，请检查写权限和剩余空间。</source>
+        <translation>「%1」をプログラムのフォルダーに書き込めません。権限と空き容量を確認してください。</translation>
+    </message>
+    <message>
+        <source>找不到更新程序“%1”。</source>
+        <translation>更新プログラム「%1」が見つかりません。</translation>
+    </message>
+    <message>
+        <source>更新程序“%1”无法运行。</source>
+        <translation>更新プログラム「%1」を実行できません。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>软件更新</source>
+        <translation>ソフトウェアの更新</translation>
+    </message>
+    <message>
+        <source>发现新版本 %1</source>
+        <translation>新しいバージョン %1 があります</translation>
+    </message>
+    <message>
+        <source>当前版本 %1</source>
+        <translation>現在のバージョン: %1</translation>
+    </message>
+    <message>
+        <source>正在安装…</source>
+        <translation>インストール中…</translation>
+    </message>
+    <message>
+        <source>正在下载… %1%</source>
+        <translation>ダウンロード中… %1%</translation>
+    </message>
+    <message>
+        <source>已取消下载，没有更改任何文件。</source>
+        <translation>ダウンロードを取り消しました。ファイルは変更されていません。</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>以后再说</source>
+        <translation>あとで</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>立即更新</source>
+        <translation>今すぐ更新</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateOffer</name>
+    <message>
+        <source>更新服务没有提供任何文件。</source>
+        <translation>更新サービスからファイルが提供されませんでした。</translation>
+    </message>
+    <message>
+        <source>文件名“%1”不允许使用：它会离开程序文件夹。</source>
+        <translation>ファイル名「%1」は使用できません。プログラムのフォルダーの外を指しています。</translation>
+    </message>
+    <message>
+        <source>“%1”的下载地址不安全：只允许 HTTPS。</source>
+        <translation>「%1」のダウンロード先は安全ではありません。HTTPS のみ使用できます。</translation>
+    </message>
+    <message>
+        <source>“%1”没有有效的 SHA-256 校验值。</source>
+        <translation>「%1」には有効な SHA-256 チェックサムがありません。</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>显示</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>隐藏</source>
+        <translation>隠す</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</source>
+        <translation>デスクトップにシステムトレイがないため、実行できません。パネルの通知領域を有効にしてから、もう一度起動してください。</translation>
+    </message>
+</context>
+<context>
+    <name>painter</name>
+    <message>
+        <source>主窗口</source>
+        <translation>メインウィンドウ</translation>
+    </message>
+</context>
+</TS>

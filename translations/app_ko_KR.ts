@@ -1,0 +1,564 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko_KR" sourcelanguage="zh_CN">
+<context>
+    <name>AboutWindow</name>
+    <message>
+        <source>关于</source>
+        <translation>정보</translation>
+    </message>
+    <message>
+        <source>版本 %1 · 界面 %2</source>
+        <translation>버전 %1 · 화면 %2</translation>
+    </message>
+    <message>
+        <source>第三方组件及许可</source>
+        <translation>타사 구성 요소 및 라이선스</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>도움말</translation>
+    </message>
+</context>
+<context>
+    <name>CloseButton</name>
+    <message>
+        <source>关闭</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>DragHandle</name>
+    <message>
+        <source>移动工具栏</source>
+        <translation>도구 모음 이동</translation>
+    </message>
+</context>
+<context>
+    <name>FluInfoBarItem</name>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>FluShortcutPicker</name>
+    <message>
+        <source>Conflict</source>
+        <translation>충돌</translation>
+    </message>
+</context>
+<context>
+    <name>FluTextBox</name>
+    <message>
+        <source>Clear</source>
+        <translation>지우기</translation>
+    </message>
+</context>
+<context>
+    <name>FluTextMenu</name>
+    <message>
+        <source>Cut</source>
+        <translation>잘라내기</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>붙여넣기</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>모두 선택</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayDialogs</name>
+    <message>
+        <source>请选择一个文件</source>
+        <translation>파일을 선택하세요</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayWindow</name>
+    <message>
+        <source>图片已保存</source>
+        <translation>그림을 저장했습니다</translation>
+    </message>
+    <message>
+        <source>图片未能保存</source>
+        <translation>그림을 저장하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>绘制窗口</source>
+        <translation>그리기 창</translation>
+    </message>
+    <message>
+        <source>桌面没有运行合成器：您将在静止的屏幕画面上绘制</source>
+        <translation>컴포지터가 실행되고 있지 않아 정지된 화면 위에 그립니다</translation>
+    </message>
+    <message>
+        <source>Ctrl+鼠标滚轮:缩放图片</source>
+        <translation>Ctrl+휠: 그림 크기 조절</translation>
+    </message>
+    <message>
+        <source>Ctrl+鼠标移动:拖动图片</source>
+        <translation>Ctrl+끌기: 그림 이동</translation>
+    </message>
+    <message>
+        <source>无法打开图片</source>
+        <translation>그림을 열 수 없습니다</translation>
+    </message>
+    <message>
+        <source>创建文本输入框失败，请确认TextEditBox.qml文件存在</source>
+        <translation>텍스트 입력란을 만들 수 없습니다. TextEditBox.qml 파일이 있는지 확인하세요.</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteButton</name>
+    <message>
+        <source>按左右方向键打开选项</source>
+        <translation>왼쪽/오른쪽 화살표 키로 선택 항목 열기</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteHotkeys</name>
+    <message>
+        <source>截屏</source>
+        <translation>스크린샷</translation>
+    </message>
+    <message>
+        <source>确认变换</source>
+        <translation>변형 확인</translation>
+    </message>
+    <message>
+        <source>橡皮擦</source>
+        <translation>지우개</translation>
+    </message>
+    <message>
+        <source>画笔</source>
+        <translation>펜</translation>
+    </message>
+    <message>
+        <source>退出绘制模式</source>
+        <translation>그리기 모드 종료</translation>
+    </message>
+    <message>
+        <source>文字</source>
+        <translation>텍스트</translation>
+    </message>
+    <message>
+        <source>清除画布</source>
+        <translation>모두 지우기</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>恢复</source>
+        <translation>다시 실행</translation>
+    </message>
+    <message>
+        <source>直线模式</source>
+        <translation>직선 모드</translation>
+    </message>
+    <message>
+        <source>圆形模式</source>
+        <translation>원 모드</translation>
+    </message>
+    <message>
+        <source>矩形模式</source>
+        <translation>사각형 모드</translation>
+    </message>
+    <message>
+        <source>箭头模式</source>
+        <translation>화살표 모드</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteSheet</name>
+    <message>
+        <source>展开</source>
+        <translation>펼치기</translation>
+    </message>
+    <message>
+        <source>收起</source>
+        <translation>접기</translation>
+    </message>
+    <message>
+        <source>鼠标</source>
+        <translation>마우스</translation>
+    </message>
+    <message>
+        <source>画笔</source>
+        <translation>펜</translation>
+    </message>
+    <message>
+        <source>橡皮擦</source>
+        <translation>지우개</translation>
+    </message>
+    <message>
+        <source>清除画布</source>
+        <translation>모두 지우기</translation>
+    </message>
+    <message>
+        <source>画板</source>
+        <translation>보드</translation>
+    </message>
+    <message>
+        <source>截屏</source>
+        <translation>스크린샷</translation>
+    </message>
+    <message>
+        <source>录屏</source>
+        <translation>화면 녹화</translation>
+    </message>
+    <message>
+        <source>停止录屏</source>
+        <translation>녹화 중지</translation>
+    </message>
+    <message>
+        <source>画笔颜色</source>
+        <translation>펜 색상</translation>
+    </message>
+    <message>
+        <source>画笔粗细</source>
+        <translation>펜 굵기</translation>
+    </message>
+    <message>
+        <source>自动消失</source>
+        <translation>자동으로 사라지기</translation>
+    </message>
+    <message>
+        <source>呼吸效果</source>
+        <translation>숨쉬기 효과</translation>
+    </message>
+    <message>
+        <source>菜单</source>
+        <translation>메뉴</translation>
+    </message>
+</context>
+<context>
+    <name>PictureExport</name>
+    <message>
+        <source>画布上没有内容，无需保存</source>
+        <translation>캔버스에 저장할 내용이 없습니다.</translation>
+    </message>
+    <message>
+        <source>无法写入 %1：%2</source>
+        <translation>%1 에 쓸 수 없습니다: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenCapture</name>
+    <message>
+        <source>没有设置截图文件夹，请在设置中选择</source>
+        <translation>스크린샷 폴더가 지정되지 않았습니다. 설정에서 선택하세요.</translation>
+    </message>
+    <message>
+        <source>无法创建截图文件夹 %1，请在设置中另选一个</source>
+        <translation>스크린샷 폴더 %1 을(를) 만들 수 없습니다. 설정에서 다른 폴더를 선택하세요.</translation>
+    </message>
+    <message>
+        <source>找不到显示器，无法截图</source>
+        <translation>화면을 찾을 수 없어 스크린샷을 찍지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>截图无法保存到 %1，请检查文件夹权限和磁盘空间</source>
+        <translation>스크린샷을 %1 에 저장할 수 없습니다. 폴더 권한과 디스크 여유 공간을 확인하세요.</translation>
+    </message>
+    <message>
+        <source>选择的区域太小，请重新选择</source>
+        <translation>선택한 영역이 너무 작습니다. 다시 선택하세요.</translation>
+    </message>
+    <message>
+        <source>选择的区域超出主屏幕，请重新选择</source>
+        <translation>선택한 영역이 주 화면을 벗어났습니다. 다시 선택하세요.</translation>
+    </message>
+    <message>
+        <source>系统不允许读取屏幕，无法截图</source>
+        <translation>시스템에서 화면 읽기를 허용하지 않아 스크린샷을 찍지 못했습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectionFrame</name>
+    <message>
+        <source>按ESC键隐藏控制点</source>
+        <translation>Esc 키로 조절점 숨기기</translation>
+    </message>
+    <message>
+        <source>拖动可移动元素</source>
+        <translation>끌어서 이동</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsClazz</name>
+    <message>
+        <source>选择保存目录</source>
+        <translation>저장 폴더 선택</translation>
+    </message>
+</context>
+<context>
+    <name>TextEditBox</name>
+    <message>
+        <source>Ctrl+滚轮调整字体|Ctrl+Enter换行|ESC:取消</source>
+        <translation>Ctrl+휠: 글꼴 크기 | Ctrl+Enter: 줄바꿈 | Esc: 취소</translation>
+    </message>
+</context>
+<context>
+    <name>ToolController</name>
+    <message>
+        <source>Shit+绘制:绘制90°,45°,180°直线</source>
+        <translation>Shift+그리기: 90°, 45°, 180° 직선</translation>
+    </message>
+    <message>
+        <source>Shit+绘制:绘制正方形</source>
+        <translation>Shift+그리기: 정사각형</translation>
+    </message>
+</context>
+<context>
+    <name>ToolNames</name>
+    <message>
+        <source>关于</source>
+        <translation>정보</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>도움말</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>종료</translation>
+    </message>
+    <message>
+        <source>画笔</source>
+        <translation>펜</translation>
+    </message>
+    <message>
+        <source>荧光笔</source>
+        <translation>형광펜</translation>
+    </message>
+    <message>
+        <source>文字</source>
+        <translation>텍스트</translation>
+    </message>
+    <message>
+        <source>直线</source>
+        <translation>직선</translation>
+    </message>
+    <message>
+        <source>圆形</source>
+        <translation>원</translation>
+    </message>
+    <message>
+        <source>箭头</source>
+        <translation>화살표</translation>
+    </message>
+    <message>
+        <source>矩形</source>
+        <translation>사각형</translation>
+    </message>
+    <message>
+        <source>编号</source>
+        <translation>번호</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>恢复</source>
+        <translation>다시 실행</translation>
+    </message>
+    <message>
+        <source>透明画板</source>
+        <translation>투명 보드</translation>
+    </message>
+    <message>
+        <source>白板</source>
+        <translation>화이트보드</translation>
+    </message>
+    <message>
+        <source>黑板</source>
+        <translation>칠판</translation>
+    </message>
+    <message>
+        <source>图片背景</source>
+        <translation>배경 그림</translation>
+    </message>
+    <message>
+        <source>细</source>
+        <translation>가늘게</translation>
+    </message>
+    <message>
+        <source>中</source>
+        <translation>보통</translation>
+    </message>
+    <message>
+        <source>粗</source>
+        <translation>굵게</translation>
+    </message>
+    <message>
+        <source>特粗</source>
+        <translation>아주 굵게</translation>
+    </message>
+    <message>
+        <source>不自动消失</source>
+        <translation>사라지지 않음</translation>
+    </message>
+    <message>
+        <source>不呼吸</source>
+        <translation>숨쉬기 없음</translation>
+    </message>
+    <message>
+        <source>每 %1 秒消失一笔</source>
+        <translation>%1초마다 하나씩 사라짐</translation>
+    </message>
+    <message>
+        <source>呼吸 %1 秒</source>
+        <translation>%1초 동안 숨쉬기</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDownloader</name>
+    <message>
+        <source>无法创建临时文件：%1</source>
+        <translation>임시 파일을 만들 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>“%1”的下载地址不安全：只允许 HTTPS。</source>
+        <translation>“%1”의 다운로드 주소가 안전하지 않습니다. HTTPS만 사용할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>“%1”过大。</source>
+        <translation>“%1” 파일이 너무 큽니다.</translation>
+    </message>
+    <message>
+        <source>无法写入临时文件：%1</source>
+        <translation>임시 파일에 쓸 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>“%1”下载失败：%2</source>
+        <translation>“%1”을(를) 다운로드하지 못했습니다: %2</translation>
+    </message>
+    <message>
+        <source>“%1”与校验值不符，已丢弃。</source>
+        <translation>“%1”이(가) 체크섬과 일치하지 않아 삭제했습니다.</translation>
+    </message>
+    <message>
+        <source>无法把“%1”写入程序文件夹，请检查写权限和剩余空间。</source>
+        <translation>“%1”을(를) 프로그램 폴더에 쓸 수 없습니다. 권한과 여유 공간을 확인하세요.</translation>
+    </message>
+    <message>
+        <source>找不到更新程序“%1”。</source>
+        <translation>업데이트 프로그램 “%1”을(를) 찾을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>更新程序“%1”无法运行。</source>
+        <translation>업데이트 프로그램 “%1”을(를) 실행할 수 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>软件更新</source>
+        <translation>소프트웨어 업데이트</translation>
+    </message>
+    <message>
+        <source>发现新版本 %1</source>
+        <translation>새 버전 %1 이(가) 있습니다</translation>
+    </message>
+    <message>
+        <source>当前版本 %1</source>
+        <translation>현재 버전: %1</translation>
+    </message>
+    <message>
+        <source>正在安装…</source>
+        <translation>설치 중…</translation>
+    </message>
+    <message>
+        <source>正在下载… %1%</source>
+        <translation>다운로드 중… %1%</translation>
+    </message>
+    <message>
+        <source>已取消下载，没有更改任何文件。</source>
+        <translation>다운로드를 취소했습니다. 변경된 파일은 없습니다.</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>以后再说</source>
+        <translation>나중에</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>다시 시도</translation>
+    </message>
+    <message>
+        <source>立即更新</source>
+        <translation>지금 업데이트</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateOffer</name>
+    <message>
+        <source>更新服务没有提供任何文件。</source>
+        <translation>업데이트 서비스에서 제공한 파일이 없습니다.</translation>
+    </message>
+    <message>
+        <source>文件名“%1”不允许使用：它会离开程序文件夹。</source>
+        <translation>파일 이름 “%1”은(는) 사용할 수 없습니다. 프로그램 폴더를 벗어납니다.</translation>
+    </message>
+    <message>
+        <source>“%1”的下载地址不安全：只允许 HTTPS。</source>
+        <translation>“%1”의 다운로드 주소가 안전하지 않습니다. HTTPS만 사용할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>“%1”没有有效的 SHA-256 校验值。</source>
+        <translation>“%1”에 올바른 SHA-256 체크섬이 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>显示</source>
+        <translation>보이기</translation>
+    </message>
+    <message>
+        <source>隐藏</source>
+        <translation>숨기기</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>종료</translation>
+    </message>
+    <message>
+        <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</source>
+        <translation>데스크톱에 시스템 트레이가 없어 실행할 수 없습니다. 패널의 알림 영역을 켠 뒤 다시 실행하세요.</translation>
+    </message>
+</context>
+<context>
+    <name>painter</name>
+    <message>
+        <source>主窗口</source>
+        <translation>기본 창</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,564 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="zh_CN">
+<context>
+    <name>AboutWindow</name>
+    <message>
+        <source>关于</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>版本 %1 · 界面 %2</source>
+        <translation>版本 %1 · 界面 %2</translation>
+    </message>
+    <message>
+        <source>第三方组件及许可</source>
+        <translation>第三方组件及许可</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>帮助</translation>
+    </message>
+</context>
+<context>
+    <name>CloseButton</name>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>DragHandle</name>
+    <message>
+        <source>移动工具栏</source>
+        <translation>移动工具栏</translation>
+    </message>
+</context>
+<context>
+    <name>FluInfoBarItem</name>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>FluShortcutPicker</name>
+    <message>
+        <source>Conflict</source>
+        <translation>冲突</translation>
+    </message>
+</context>
+<context>
+    <name>FluTextBox</name>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+</context>
+<context>
+    <name>FluTextMenu</name>
+    <message>
+        <source>Cut</source>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayDialogs</name>
+    <message>
+        <source>请选择一个文件</source>
+        <translation>请选择一个文件</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayWindow</name>
+    <message>
+        <source>图片已保存</source>
+        <translation>图片已保存</translation>
+    </message>
+    <message>
+        <source>图片未能保存</source>
+        <translation>图片未能保存</translation>
+    </message>
+    <message>
+        <source>绘制窗口</source>
+        <translation>绘制窗口</translation>
+    </message>
+    <message>
+        <source>桌面没有运行合成器：您将在静止的屏幕画面上绘制</source>
+        <translation>桌面没有运行合成器：您将在静止的屏幕画面上绘制</translation>
+    </message>
+    <message>
+        <source>Ctrl+鼠标滚轮:缩放图片</source>
+        <translation>Ctrl+鼠标滚轮:缩放图片</translation>
+    </message>
+    <message>
+        <source>Ctrl+鼠标移动:拖动图片</source>
+        <translation>Ctrl+鼠标移动:拖动图片</translation>
+    </message>
+    <message>
+        <source>无法打开图片</source>
+        <translation>无法打开图片</translation>
+    </message>
+    <message>
+        <source>创建文本输入框失败，请确认TextEditBox.qml文件存在</source>
+        <translation>创建文本输入框失败，请确认TextEditBox.qml文件存在</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteButton</name>
+    <message>
+        <source>按左右方向键打开选项</source>
+        <translation>按左右方向键打开选项</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteHotkeys</name>
+    <message>
+        <source>截屏</source>
+        <translation>截屏</translation>
+    </message>
+    <message>
+        <source>确认变换</source>
+        <translation>确认变换</translation>
+    </message>
+    <message>
+        <source>橡皮擦</source>
+        <translation>橡皮擦</translation>
+    </message>
+    <message>
+        <source>画笔</source>
+        <translation>画笔</translation>
+    </message>
+    <message>
+        <source>退出绘制模式</source>
+        <translation>退出绘制模式</translation>
+    </message>
+    <message>
+        <source>文字</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>清除画布</source>
+        <translation>清除画布</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>恢复</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>直线模式</source>
+        <translation>直线模式</translation>
+    </message>
+    <message>
+        <source>圆形模式</source>
+        <translation>圆形模式</translation>
+    </message>
+    <message>
+        <source>矩形模式</source>
+        <translation>矩形模式</translation>
+    </message>
+    <message>
+        <source>箭头模式</source>
+        <translation>箭头模式</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteSheet</name>
+    <message>
+        <source>展开</source>
+        <translation>展开</translation>
+    </message>
+    <message>
+        <source>收起</source>
+        <translation>收起</translation>
+    </message>
+    <message>
+        <source>鼠标</source>
+        <translation>鼠标</translation>
+    </message>
+    <message>
+        <source>画笔</source>
+        <translation>画笔</translation>
+    </message>
+    <message>
+        <source>橡皮擦</source>
+        <translation>橡皮擦</translation>
+    </message>
+    <message>
+        <source>清除画布</source>
+        <translation>清除画布</translation>
+    </message>
+    <message>
+        <source>画板</source>
+        <translation>画板</translation>
+    </message>
+    <message>
+        <source>截屏</source>
+        <translation>截屏</translation>
+    </message>
+    <message>
+        <source>录屏</source>
+        <translation>录屏</translation>
+    </message>
+    <message>
+        <source>停止录屏</source>
+        <translation>停止录屏</translation>
+    </message>
+    <message>
+        <source>画笔颜色</source>
+        <translation>画笔颜色</translation>
+    </message>
+    <message>
+        <source>画笔粗细</source>
+        <translation>画笔粗细</translation>
+    </message>
+    <message>
+        <source>自动消失</source>
+        <translation>自动消失</translation>
+    </message>
+    <message>
+        <source>呼吸效果</source>
+        <translation>呼吸效果</translation>
+    </message>
+    <message>
+        <source>菜单</source>
+        <translation>菜单</translation>
+    </message>
+</context>
+<context>
+    <name>PictureExport</name>
+    <message>
+        <source>画布上没有内容，无需保存</source>
+        <translation>画布上没有内容，无需保存</translation>
+    </message>
+    <message>
+        <source>无法写入 %1：%2</source>
+        <translation>无法写入 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenCapture</name>
+    <message>
+        <source>没有设置截图文件夹，请在设置中选择</source>
+        <translation>没有设置截图文件夹，请在设置中选择</translation>
+    </message>
+    <message>
+        <source>无法创建截图文件夹 %1，请在设置中另选一个</source>
+        <translation>无法创建截图文件夹 %1，请在设置中另选一个</translation>
+    </message>
+    <message>
+        <source>找不到显示器，无法截图</source>
+        <translation>找不到显示器，无法截图</translation>
+    </message>
+    <message>
+        <source>截图无法保存到 %1，请检查文件夹权限和磁盘空间</source>
+        <translation>截图无法保存到 %1，请检查文件夹权限和磁盘空间</translation>
+    </message>
+    <message>
+        <source>选择的区域太小，请重新选择</source>
+        <translation>选择的区域太小，请重新选择</translation>
+    </message>
+    <message>
+        <source>选择的区域超出主屏幕，请重新选择</source>
+        <translation>选择的区域超出主屏幕，请重新选择</translation>
+    </message>
+    <message>
+        <source>系统不允许读取屏幕，无法截图</source>
+        <translation>系统不允许读取屏幕，无法截图</translation>
+    </message>
+</context>
+<context>
+    <name>SelectionFrame</name>
+    <message>
+        <source>按ESC键隐藏控制点</source>
+        <translation>按ESC键隐藏控制点</translation>
+    </message>
+    <message>
+        <source>拖动可移动元素</source>
+        <translation>拖动可移动元素</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsClazz</name>
+    <message>
+        <source>选择保存目录</source>
+        <translation>选择保存目录</translation>
+    </message>
+</context>
+<context>
+    <name>TextEditBox</name>
+    <message>
+        <source>Ctrl+滚轮调整字体|Ctrl+Enter换行|ESC:取消</source>
+        <translation>Ctrl+滚轮调整字体|Ctrl+Enter换行|ESC:取消</translation>
+    </message>
+</context>
+<context>
+    <name>ToolController</name>
+    <message>
+        <source>Shit+绘制:绘制90°,45°,180°直线</source>
+        <translation>Shit+绘制:绘制90°,45°,180°直线</translation>
+    </message>
+    <message>
+        <source>Shit+绘制:绘制正方形</source>
+        <translation>Shit+绘制:绘制正方形</translation>
+    </message>
+</context>
+<context>
+    <name>ToolNames</name>
+    <message>
+        <source>关于</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>画笔</source>
+        <translation>画笔</translation>
+    </message>
+    <message>
+        <source>荧光笔</source>
+        <translation>荧光笔</translation>
+    </message>
+    <message>
+        <source>文字</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>直线</source>
+        <translation>直线</translation>
+    </message>
+    <message>
+        <source>圆形</source>
+        <translation>圆形</translation>
+    </message>
+    <message>
+        <source>箭头</source>
+        <translation>箭头</translation>
+    </message>
+    <message>
+        <source>矩形</source>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>编号</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>恢复</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>透明画板</source>
+        <translation>透明画板</translation>
+    </message>
+    <message>
+        <source>白板</source>
+        <translation>白板</translation>
+    </message>
+    <message>
+        <source>黑板</source>
+        <translation>黑板</translation>
+    </message>
+    <message>
+        <source>图片背景</source>
+        <translation>图片背景</translation>
+    </message>
+    <message>
+        <source>细</source>
+        <translation>细</translation>
+    </message>
+    <message>
+        <source>中</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>粗</source>
+        <translation>粗</translation>
+    </message>
+    <message>
+        <source>特粗</source>
+        <translation>特粗</translation>
+    </message>
+    <message>
+        <source>不自动消失</source>
+        <translation>不自动消失</translation>
+    </message>
+    <message>
+        <source>不呼吸</source>
+        <translation>不呼吸</translation>
+    </message>
+    <message>
+        <source>每 %1 秒消失一笔</source>
+        <translation>每 %1 秒消失一笔</translation>
+    </message>
+    <message>
+        <source>呼吸 %1 秒</source>
+        <translation>呼吸 %1 秒</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDownloader</name>
+    <message>
+        <source>无法创建临时文件：%1</source>
+        <translation>无法创建临时文件：%1</translation>
+    </message>
+    <message>
+        <source>“%1”的下载地址不安全：只允许 HTTPS。</source>
+        <translation>“%1”的下载地址不安全：只允许 HTTPS。</translation>
+    </message>
+    <message>
+        <source>“%1”过大。</source>
+        <translation>“%1”过大。</translation>
+    </message>
+    <message>
+        <source>无法写入临时文件：%1</source>
+        <translation>无法写入临时文件：%1</translation>
+    </message>
+    <message>
+        <source>“%1”下载失败：%2</source>
+        <translation>“%1”下载失败：%2</translation>
+    </message>
+    <message>
+        <source>“%1”与校验值不符，已丢弃。</source>
+        <translation>“%1”与校验值不符，已丢弃。</translation>
+    </message>
+    <message>
+        <source>无法把“%1”写入程序文件夹，请检查写权限和剩余空间。</source>
+        <translation>无法把“%1”写入程序文件夹，请检查写权限和剩余空间。</translation>
+    </message>
+    <message>
+        <source>找不到更新程序“%1”。</source>
+        <translation>找不到更新程序“%1”。</translation>
+    </message>
+    <message>
+        <source>更新程序“%1”无法运行。</source>
+        <translation>更新程序“%1”无法运行。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateNotice</name>
+    <message>
+        <source>软件更新</source>
+        <translation>软件更新</translation>
+    </message>
+    <message>
+        <source>发现新版本 %1</source>
+        <translation>发现新版本 %1</translation>
+    </message>
+    <message>
+        <source>当前版本 %1</source>
+        <translation>当前版本 %1</translation>
+    </message>
+    <message>
+        <source>正在安装…</source>
+        <translation>正在安装…</translation>
+    </message>
+    <message>
+        <source>正在下载… %1%</source>
+        <translation>正在下载… %1%</translation>
+    </message>
+    <message>
+        <source>已取消下载，没有更改任何文件。</source>
+        <translation>已取消下载，没有更改任何文件。</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>以后再说</source>
+        <translation>以后再说</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>立即更新</source>
+        <translation>立即更新</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateOffer</name>
+    <message>
+        <source>更新服务没有提供任何文件。</source>
+        <translation>更新服务没有提供任何文件。</translation>
+    </message>
+    <message>
+        <source>文件名“%1”不允许使用：它会离开程序文件夹。</source>
+        <translation>文件名“%1”不允许使用：它会离开程序文件夹。</translation>
+    </message>
+    <message>
+        <source>“%1”的下载地址不安全：只允许 HTTPS。</source>
+        <translation>“%1”的下载地址不安全：只允许 HTTPS。</translation>
+    </message>
+    <message>
+        <source>“%1”没有有效的 SHA-256 校验值。</source>
+        <translation>“%1”没有有效的 SHA-256 校验值。</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>显示</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>隐藏</source>
+        <translation>隐藏</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</source>
+        <translation>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</translation>
+    </message>
+</context>
+<context>
+    <name>painter</name>
+    <message>
+        <source>主窗口</source>
+        <translation>主窗口</translation>
+    </message>
+</context>
+</TS>
