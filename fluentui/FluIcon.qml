@@ -9,8 +9,10 @@ ColorImage {
     property int iconSource: 0
     property int iconSize: 20
 
+    readonly property int devicePixels: Math.round(iconSize * Screen.devicePixelRatio)
+
     width: iconSize
     height: iconSize
     source: FluIconCatalogue.url(iconSource)
-    sourceSize: Qt.size(iconSize, iconSize)
+    sourceSize: Qt.size(devicePixels, devicePixels)
 }

@@ -85,11 +85,13 @@ Rectangle {
                 color: root.shade(root.look.mark)
             }
             Column {
-                topPadding: Math.round((icon.height - firstLine.height) / 2)
+                topPadding: Math.round((icon.height - title.implicitHeight / title.lineCount) / 2)
                 bottomPadding: topPadding
                 spacing: 4
 
                 FluText {
+                    id: title
+
                     width: Math.min(implicitWidth, root.textWidth)
                     text: root.text
                     wrapMode: Text.Wrap
@@ -121,11 +123,5 @@ Rectangle {
                 }
             }
         }
-    }
-
-    FontMetrics {
-        id: firstLine
-
-        font: FluTextStyle.Body
     }
 }

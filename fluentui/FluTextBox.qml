@@ -88,14 +88,17 @@ T.TextField {
             contentDescription: qsTr("Clear")
             onClicked: root.clear()
         }
-        FluIcon {
-            anchors.verticalCenter: parent.verticalCenter
+        Item {
             visible: root.iconSource !== 0
             width: 20
-            fillMode: Image.Pad
-            iconSource: root.iconSource
-            iconSize: 12
-            color: root.placeholderTextColor
+            height: parent.height
+
+            FluIcon {
+                anchors.centerIn: parent
+                iconSource: root.iconSource
+                iconSize: 12
+                color: root.placeholderTextColor
+            }
         }
     }
 

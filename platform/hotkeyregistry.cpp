@@ -65,9 +65,9 @@ void HotKeyRegistry::add(GlobalHotKey *owner, QKeyCombination wanted)
     const QKeyCombination keys = normalized(wanted.keyboardModifiers(), wanted.key());
     const auto [it, isNew] = m_bindings.try_emplace(keys.toCombined());
     Binding &binding = it->second;
-    binding.owners.append(owner);
     if (isNew || !binding.registered)
         tryGrab(keys, binding);
+    binding.owners.append(owner);
 }
 
 void HotKeyRegistry::remove(GlobalHotKey *owner)

@@ -121,14 +121,18 @@ bool X11HotKeyBackend::grabOnServer(const std::vector<X11Key> &keys)
     return granted && isConnected();
 }
 
-/// Keys that another combination holds as well stay grabbed.
+/// Keys that another combination holds as well stay grabbed. The others are free when it returns:
+/// waiting for any answer makes sure that the server has done it.
 void X11HotKeyBackend::ungrabOnServer(const std::vector<X11Key> &keys)
 {
     for (const X11Key &key : keys) {
         if (!isHeld(key))
             xcb_ungrab_key(m_connection.get(), key.code, m_root, key.modifiers);
     }
-    xcb_flush(m_connection.get());
+    const auto cookie = xcb_get_input_focus(m_connection.get());
+    const XcbPtr<xcb_get_input_focus_reply_t> answer(
+        xcb_get_input_focus_reply(m_connection.get(), cookie, nullptr));
+    readEventsSoon();
 }
 
 bool X11HotKeyBackend::isHeld(X11Key key) const

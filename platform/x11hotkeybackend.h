@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/hotkeybackend.h"
+#include "platform/x11grabfocusfilter.h"
 #include "platform/x11keymap.h"
 
 #include <QSet>
@@ -40,6 +41,7 @@ private:
     void readEventsSoon();
 
     std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
+    X11GrabFocusFilter m_focusFilter;
     xcb_window_t m_root = XCB_WINDOW_NONE;
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::unique_ptr<X11KeyMap> m_keyMap; ///< null after the layout changed, until needed

@@ -10,8 +10,8 @@ int main(int argc, char **argv)
     const QStringList arguments = QGuiApplication::arguments();
     QQmlApplicationEngine engine;
     engine.addImportPath(QStringLiteral(":/qt/qml"));
-    engine.load(QUrl::fromLocalFile(
-        arguments.value(1, QStringLiteral(DRAVELIN_TEST_DIR "/gallery.qml"))));
+    engine.load(
+        QUrl::fromLocalFile(arguments.value(1, QStringLiteral(DRAVELIN_TEST_DIR "/gallery.qml"))));
     if (engine.rootObjects().isEmpty())
         return 1;
     if (arguments.size() > 2) {

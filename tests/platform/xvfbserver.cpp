@@ -1,0 +1,23 @@
+#include "xvfbserver.h"
+
+XvfbServer::XvfbServer()
+{
+    // The server picks a free display and writes its number when it is ready.
+    m_process.start(QStringLiteral("Xvfb"),
+        { QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+            QStringLiteral("0"), QStringLiteral("800x600x24"), QStringLiteral("-noreset") });
+    QByteArray number;
+    while (!number.endsWith('\n') && m_process.waitForReadyRead(20000))
+        number += m_process.readAllStandardOutput();
+    if (!number.endsWith('\n'))
+        return;
+    m_display = ':' + number.trimmed();
+    qputenv("DISPLAY", m_display);
+    qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
+XvfbServer::~XvfbServer()
+{
+    m_process.terminate();
+    m_process.waitForFinished();
+}
