@@ -10,7 +10,7 @@
 namespace
 {
 constexpr int kRepaintMs = 150; // what the windows beneath get for painting the uncovered areas
-constexpr int kLeastAlpha = 16; // fainter edges would only leave a dark rim
+constexpr int kLeastAlpha = 96; // fainter edges would be a dark rim; highlighters have more
 
 /// A region outside of every window: a window cut to it is mapped and yet shows nothing.
 const QRegion kNowhere(-1, -1, 1, 1);

@@ -19,6 +19,7 @@ Item {
 
     Rectangle {
         anchors.fill: parent
+        radius: 4
         gradient: Gradient {
             orientation: Gradient.Horizontal
             GradientStop { position: 0; color: "white" }
@@ -28,6 +29,7 @@ Item {
 
     Rectangle {
         anchors.fill: parent
+        radius: 4
         gradient: Gradient {
             GradientStop { position: 0; color: "transparent" }
             GradientStop { position: 1; color: "black" }

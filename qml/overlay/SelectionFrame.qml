@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 import Cpp.MyComponents
+import FluentUI
 
 // The frame around the selected mark: eight handles scale it, the area between them moves it.
 Item {
@@ -104,12 +105,12 @@ Item {
         border.width: 2
     }
 
-    Text {
+    FluText {
         readonly property bool fits: root.y + root.height + 5 + height <= root.parent.height
 
         y: fits ? root.height + 5 : -5 - height
         text: qsTr("按ESC键隐藏控制点")
-        color: "blue"
+        textColor: "blue"
         font.pixelSize: 12
     }
 

@@ -1,5 +1,6 @@
 import QtQuick
 import Cpp.MyComponents
+import FluentUI
 import "OverlayLog.js" as OverlayLog
 
 // The floating editor for a text mark. Its text lands on the canvas where it stands here.
@@ -19,13 +20,23 @@ Rectangle {
     signal completed
     signal editorDestroyed
 
+    /// The text as it is seen, with what an input method is still composing.
+    function seenText(): string {
+        const composing = edit.preeditText;
+        const before = edit.text;
+        const position = edit.cursorPosition;
+        Qt.inputMethod.commit();
+        const kept = edit.text !== before || composing === "";
+        return kept ? edit.text : before.slice(0, position) + composing + before.slice(position);
+    }
+
     /// Adds the text to the canvas; false when there is nothing worth adding.
     function submit(): bool {
-        Qt.inputMethod.commit(); // what is still being composed belongs to the text
-        const trimmed = edit.text.trim();
+        const text = root.seenText();
+        const trimmed = text.trim();
         if (trimmed === "" || trimmed === root.placeholder)
             return false;
-        root.painter.addText(edit.text.replace(/\r\n/g, "\n"), root.x + root.textMargin,
+        root.painter.addText(text.replace(/\r\n/g, "\n"), root.x + root.textMargin,
             root.y + root.textMargin, edit.font.pixelSize);
         return true;
     }
@@ -60,12 +71,12 @@ Rectangle {
     }
     Component.onDestruction: root.editorDestroyed()
 
-    Text {
+    FluText {
         visible: root.showText
         // Above the frame, or below it where the screen ends.
         y: root.y >= height ? -height : root.height
         text: qsTr("Ctrl+滚轮调整字体|Ctrl+Enter换行|ESC:取消")
-        color: "red"
+        textColor: "red"
         font.pixelSize: 10
     }
 
