@@ -2,6 +2,7 @@
 
 from .case import DesktopTestCase, artifacts_folder, main, program_path
 from .inputs import LEFT, MIDDLE, RIGHT
+from .palette import Palette
 from .program import Program, install
 from .screen import changed_box, near
 from .session import Desktop
@@ -10,7 +11,7 @@ from .waiting import WaitTimeout, wait_for
 from .windows import Rect, Window
 
 __all__ = [
-    "EXIT", "HIDE", "LEFT", "MIDDLE", "RIGHT", "Desktop", "DesktopTestCase", "Program", "Rect", "TrayIcon", "WaitTimeout",
+    "EXIT", "HIDE", "LEFT", "MIDDLE", "RIGHT", "Desktop", "DesktopTestCase", "Palette", "Program", "Rect", "TrayIcon", "WaitTimeout",
     "Window", "artifacts_folder", "changed_box", "install", "main", "near", "program_path",
     "wait_for",
 ]

@@ -94,10 +94,14 @@ class Program:
     def window(self, what="a window of the program", timeout=30.0, **wanted):
         """Waits for the program's one visible window that matches and returns it."""
         def find():
-            if not self.running:
-                raise ProgramEnded(f"the program ended with {self.exit_code} before {what} came")
+            self.expect_running(what)
             return self._desktop.windows.find(pid=self.pid, **wanted)
         return wait_for(find, f"{what} to appear", timeout)
+
+    def expect_running(self, what):
+        if not self.running:
+            raise ProgramEnded(f"the program ended with {self.exit_code} while the test waited for "
+                               f"{what}")
 
     def windows(self, **wanted):
         return self._desktop.windows.all(pid=self.pid, **wanted)

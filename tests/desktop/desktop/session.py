@@ -37,6 +37,7 @@ class Desktop:
         self._wallpaper = wallpaper or Image.new("RGB", size, WALLPAPER_COLOUR)
         self.language = language
         self.programs = []
+        self._opened = []
         self._companions = {}
 
     def __enter__(self):
@@ -74,6 +75,8 @@ class Desktop:
 
     def close(self):
         """Ends every process of the desktop and removes its folder."""
+        for window in self._opened:
+            window.close()
         if hasattr(self, "display"):
             self.display.close()
         self.guard.close()
@@ -120,7 +123,8 @@ class Desktop:
     def open_window(self, title="Beneath", geometry=(100, 100, 400, 300), colour=(240, 240, 240),
                     picture=None):
         """Opens an ordinary window of the desktop that counts the clicks and keys it gets."""
-        return PlainWindow(self, title, geometry, colour, picture)
+        self._opened.append(PlainWindow(self, title, geometry, colour, picture))
+        return self._opened[-1]
 
     def wait_for(self, condition, what, timeout=30.0):
         return wait_for(condition, what, timeout)

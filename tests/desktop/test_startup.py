@@ -1,0 +1,95 @@
+"""Starting and ending: once per desktop, with a tray, cleanly, whatever happened before."""
+
+import configparser
+import os
+import socket
+
+import desktop
+
+EXIT_WITHOUT_TRAY = 255
+SOCKET_NAME = "morvale.sketchorb"
+
+
+class StartupTest(desktop.DesktopTestCase):
+
+    def start_and_see(self, *arguments):
+        program = self.start(*arguments)
+        return program, desktop.Palette(self.desktop, program).window
+
+    def test_the_palette_stands_at_the_edge_and_the_tray_ends_it(self):
+        program, palette = self.start_and_see()
+        rect = palette.geometry
+        self.assertIn((rect.width, rect.height), [(33, 520), (32, 520)])
+        self.assertEqual(rect.x + rect.width, self.desktop.size[0])
+        self.assertTrue(palette.frameless)
+        self.assertTrue(palette.on_top)
+        config = configparser.ConfigParser()
+        config.read(os.path.join(self.app_folder, "config.ini"))
+        self.assertEqual(config["APP"]["opengl"], "software")
+        program.wait_for_log("Forcing software OpenGL rendering")
+        desktop.TrayIcon(self.desktop, program).choose(desktop.EXIT)
+        self.assertEqual(program.wait_for_end(), 0)
+
+    def test_the_tray_hides_and_shows_the_palette(self):
+        program, palette = self.start_and_see()
+        tray = desktop.TrayIcon(self.desktop, program)
+        tray.choose(desktop.HIDE)
+        self.wait_for(lambda: not palette.visible, "the palette to hide")
+        tray.choose(desktop.HIDE)
+        self.wait_for(lambda: palette.visible, "the palette to come back")
+
+    def test_the_menu_quits(self):
+        program = self.start()
+        desktop.Palette(self.desktop, program).choose("menu", "quit")
+        self.assertEqual(program.wait_for_end(), 0)
+
+    def test_a_second_start_hands_over_and_ends(self):
+        first, _ = self.start_and_see()
+        second = self.start("a", "b")
+        self.assertEqual(second.wait_for_end(), 0)
+        self.assertEqual(second.windows(), [])
+        self.assertTrue(first.running)
+
+    def test_a_second_start_sends_its_arguments(self):
+        with socket.socket(socket.AF_UNIX) as server:
+            server.bind(os.path.join(self.desktop.env()["TMPDIR"], SOCKET_NAME))
+            server.listen()
+            server.settimeout(30)
+            program = self.start("a", "b")
+            connection, _ = server.accept()
+            connection.settimeout(30)
+            received = b""
+            while part := connection.recv(64):
+                received += part
+            self.assertEqual(received, b"a|b")
+            self.assertEqual(program.wait_for_end(), 0)
+
+    def test_a_restart_takes_over_from_the_running_one(self):
+        first, _ = self.start_and_see()
+        second = self.start("--restart")
+        desktop.Palette(self.desktop, second).window
+        desktop.TrayIcon(self.desktop, first).choose(desktop.EXIT)
+        self.assertEqual(first.wait_for_end(), 0)
+        # The first one's end took nothing from the second: a third start still finds it.
+        self.assertEqual(self.start().wait_for_end(), 0)
+        self.assertTrue(second.running)
+
+    def test_a_crash_does_not_keep_the_next_start_from_working(self):
+        first, _ = self.start_and_see()
+        first.kill()
+        second, _ = self.start_and_see()
+        desktop.TrayIcon(self.desktop, second).choose(desktop.EXIT)
+        self.assertEqual(second.wait_for_end(), 0)
+
+
+class WithoutTrayTest(desktop.DesktopTestCase):
+    desktop_options = {"tray": False}
+
+    def test_it_says_so_and_ends(self):
+        program = self.start()
+        self.assertEqual(program.wait_for_end(), EXIT_WITHOUT_TRAY)
+        self.assertIn("No system tray available!", program.log())
+
+
+if __name__ == "__main__":
+    desktop.main()
