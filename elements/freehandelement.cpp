@@ -1,17 +1,13 @@
 #include "elements/freehandelement.h"
 
 #include "elements/geometry.h"
+#include "elements/strokepath.h"
 
 #include <QPainter>
 #include <QPainterPathStroker>
 
 #include <algorithm>
-
-namespace
-{
-/// The first segments stay straight; curves begin with the segment that ends at this point.
-constexpr qsizetype kFirstCurvedPoint = 3;
-} // namespace
+#include <cmath>
 
 FreehandElement::FreehandElement(const QColor &penColor, int width, double penOpacity)
     : DrawingElement(Freehand, penColor, width, penOpacity)
@@ -30,12 +26,36 @@ void FreehandElement::paint(QPainter *painter) const
         setUpPen(painter);
     }
     if (path.isEmpty() && points.size() > 1)
-        path = smoothedPath();
+        path = smoothedPath(points);
     if (!path.isEmpty())
-        painter->drawPath(path);
+        drawPath(painter);
     else if (points.size() == 1)
         painter->drawPoint(points.first());
     painter->setCompositionMode(mode);
+}
+
+void FreehandElement::drawPath(QPainter *painter) const
+{
+    const QBrush &brush = painter->brush();
+    const bool fills = brush.style() != Qt::NoBrush && brush.color().alpha() != 0;
+    // An eraser only clears what it passes over, not what it goes around.
+    if (fills && !isEraser) {
+        painter->drawPath(path);
+        return;
+    }
+    painter->strokePath(visiblePath(*painter), painter->pen());
+}
+
+QPainterPath FreehandElement::visiblePath(const QPainter &painter) const
+{
+    // Lines of up to a device pixel are traced from end to end, quickly but so that their pixels
+    // depend on where the trace began.
+    const double magnification = painter.combinedTransform().determinant();
+    const bool isTraced = std::abs(magnification) * penWidth * penWidth <= 1.0;
+    if (isTraced || !painter.hasClipping())
+        return path;
+    const double reach = penReach();
+    return segmentsNear(path, painter.clipBoundingRect().adjusted(-reach, -reach, reach, reach));
 }
 
 bool FreehandElement::contains(const QPoint &point, int tolerance) const
@@ -48,13 +68,13 @@ bool FreehandElement::contains(const QPoint &point, int tolerance) const
         });
     }
     const double width = penWidth + 2.0 * tolerance;
-    // Making the outline of a long stroke is slow, and most strokes are nowhere near the point.
     const double reach = std::max(width, 1.0);
     if (!path.controlPointRect().adjusted(-reach, -reach, reach, reach).contains(p))
         return false;
+    const QRectF around = QRectF(p, p).adjusted(-reach, -reach, reach, reach);
     QPainterPathStroker stroker;
     stroker.setWidth(width);
-    return stroker.createStroke(path).contains(p);
+    return stroker.createStroke(segmentsNear(path, around)).contains(p);
 }
 
 void FreehandElement::move(const QPoint &offset)
@@ -95,7 +115,7 @@ QRect FreehandElement::paintedRect() const
 
 void FreehandElement::rebuildPath()
 {
-    path = smoothedPath();
+    path = smoothedPath(points);
 }
 
 QRectF FreehandElement::pointsArea() const
@@ -105,23 +125,6 @@ QRectF FreehandElement::pointsArea() const
     const auto [left, right] = std::minmax_element(points.cbegin(), points.cend(), byX);
     const auto [top, bottom] = std::minmax_element(points.cbegin(), points.cend(), byY);
     return { QPointF(left->x(), top->y()), QPointF(right->x(), bottom->y()) };
-}
-
-QPainterPath FreehandElement::smoothedPath() const
-{
-    QPainterPath smoothed;
-    if (points.isEmpty())
-        return smoothed;
-    smoothed.moveTo(points.first());
-    for (qsizetype i = 1; i < points.size(); ++i) {
-        const QPointF current(points.at(i));
-        const QPointF previous(points.at(i - 1));
-        if (i < kFirstCurvedPoint)
-            smoothed.lineTo(current);
-        else
-            smoothed.quadTo(previous, (previous + current) * 0.5);
-    }
-    return smoothed;
 }
 
 template <typename Transform> void FreehandElement::transformPoints(Transform transform)

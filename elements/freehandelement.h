@@ -31,7 +31,9 @@ public:
 private:
     /// The rectangle from the outermost points; there must be a point.
     QRectF pointsArea() const;
-    QPainterPath smoothedPath() const;
+    void drawPath(QPainter *painter) const;
+    /// The path without what the painter's clip hides.
+    QPainterPath visiblePath(const QPainter &painter) const;
     /// Replaces every point and rebuilds the path.
     template <typename Transform> void transformPoints(Transform transform);
 };

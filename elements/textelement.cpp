@@ -8,7 +8,7 @@
 
 namespace
 {
-constexpr int kFrameMarginPx = 5;
+constexpr qint64 kFrameMarginPx = 5;
 constexpr qsizetype kPreviewLength = 50;
 
 Q_LOGGING_CATEGORY(lcText, "dravelin.elements.text")

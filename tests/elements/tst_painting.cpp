@@ -18,15 +18,6 @@ QColor pixel(const QImage &image, int x, int y)
 {
     return image.pixelColor(x, y);
 }
-
-/// Number of pixels in a column that are at least half painted.
-int inkInColumn(const QImage &image, int x)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y)
-        count += image.pixelColor(x, y).alpha() >= 128 ? 1 : 0;
-    return count;
-}
 } // namespace
 
 class TestPainting : public QObject
@@ -38,10 +29,7 @@ private slots:
     void opacityReplacesAlpha();
     void outlinesAreNotFilled_data();
     void outlinesAreNotFilled();
-    void dotsAreRound();
     void erasersClearAndRestoreTheMode();
-    void arrowHeadsGrowWithThePen();
-    void shortArrowsHaveNoHead();
     void textsAreOpaqueAndKeepTheirLines();
     void textsFollowTheirFields();
     void textsTellTheLogWhatTheyPaint();
@@ -98,16 +86,6 @@ void TestPainting::outlinesAreNotFilled()
     QCOMPARE(pixel(image, kind == DrawingElement::NumberedCircle ? 41 : 30, 50).alpha(), 0);
 }
 
-void TestPainting::dotsAreRound()
-{
-    const ElementPtr dot = samples::freehand({ QPoint(20, 20) }, { Qt::red, 20, 1.0 });
-    const QImage image = samples::painted(*dot, QSize(40, 40));
-    QCOMPARE(pixel(image, 20, 11), QColor(Qt::red));
-    QCOMPARE(pixel(image, 20, 9).alpha(), 0);
-    QCOMPARE(pixel(image, 11, 11).alpha(), 0);
-    QVERIFY(std::abs(inkInColumn(image, 20) - 20) <= 1);
-}
-
 void TestPainting::erasersClearAndRestoreTheMode()
 {
     QImage image = samples::blank(QSize(100, 20));
@@ -126,26 +104,6 @@ void TestPainting::erasersClearAndRestoreTheMode()
     const ElementPtr line = samples::make(DrawingElement::Line, QPoint(20, 10), QPoint(80, 10), {});
     line->isEraser = true;
     QCOMPARE(pixel(samples::painted(*line, image.size()), 50, 10), QColor(Qt::red));
-}
-
-void TestPainting::arrowHeadsGrowWithThePen()
-{
-    const auto headHeight = [](int width, int column) {
-        const ArrowElement arrow(QPoint(10, 60), QPoint(100, 60), Qt::red, width, 1.0);
-        return inkInColumn(samples::painted(arrow, QSize(120, 120)), column);
-    };
-    // At its base a head is as wide as it is long, and the pen runs around it.
-    QVERIFY(std::abs(headHeight(1, 85) - 15) <= 2);
-    QVERIFY(std::abs(headHeight(7, 85) - (14 + 7 + 2)) <= 2);
-    QVERIFY(std::abs(headHeight(20, 60) - (40 + 20)) <= 4);
-}
-
-void TestPainting::shortArrowsHaveNoHead()
-{
-    const ArrowElement arrow(QPoint(30, 30), QPoint(30, 30), Qt::red, 4, 1.0);
-    const QImage image = samples::painted(arrow, QSize(60, 60));
-    QVERIFY(inkInColumn(image, 30) <= 5);
-    QCOMPARE(inkInColumn(image, 20), 0);
 }
 
 void TestPainting::textsAreOpaqueAndKeepTheirLines()

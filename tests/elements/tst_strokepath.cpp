@@ -1,0 +1,125 @@
+#include "elements/strokepath.h"
+#include "tests/elements/samples.h"
+
+#include <QPainterPathStroker>
+#include <QRandomGenerator>
+#include <QTest>
+
+namespace
+{
+constexpr QSize kCanvas(400, 300);
+
+/// Scribbles with the doubled points and the corners that a pointer makes.
+QList<QPoint> scribble(quint32 seed, int count)
+{
+    QRandomGenerator random(seed);
+    QList<QPoint> points{ QPoint(200, 150) };
+    for (int i = 0; i < count; ++i) {
+        const QPoint step(random.bounded(-30, 31), random.bounded(-30, 31));
+        const QPoint next = points.last() + step;
+        points.append(QRect(QPoint(), kCanvas).contains(next) ? next : QPoint(200, 150));
+        if (i % 3)
+            points.append(points.last());
+    }
+    return points;
+}
+
+void addScribbles()
+{
+    QTest::addColumn<int>("seed");
+    QTest::addColumn<int>("width");
+    for (const int width : { 0, 1, 2, 5, 24 }) {
+        for (const int seed : { 1, 2, 3, 4 })
+            QTest::addRow("seed %d, width %d", seed, width) << seed << width;
+    }
+}
+} // namespace
+
+/// Leaving out what cannot be seen must not change what can be.
+class TestStrokePath : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void clippedPaintingIsAPieceOfTheWhole_data() { addScribbles(); }
+    void clippedPaintingIsAPieceOfTheWhole();
+    void hitsAreThoseOfTheWholeOutline_data() { addScribbles(); }
+    void hitsAreThoseOfTheWholeOutline();
+    void farSegmentsAreLeftOut();
+    void erasersKeepWhatTheyGoAround();
+};
+
+void TestStrokePath::clippedPaintingIsAPieceOfTheWhole()
+{
+    QFETCH(int, seed);
+    QFETCH(int, width);
+    const samples::Pen pen{ Qt::blue, width, seed % 2 ? 1.0 : 0.4 };
+    QList<QPoint> points = scribble(quint32(seed), 60);
+    if (seed == 4)
+        points.append({ points.first(), points.first() });
+    const ElementPtr stroke = samples::freehand(points, pen);
+    const QImage whole = samples::painted(*stroke, kCanvas);
+
+    QRandomGenerator random(quint32(seed) + 100);
+    for (int i = 0; i < 40; ++i) {
+        const QRect clip(random.bounded(400), random.bounded(300), 1 + random.bounded(120),
+            1 + random.bounded(90));
+        QImage image = samples::blank(kCanvas);
+        QPainter painter(&image);
+        painter.setClipRect(clip);
+        stroke->paint(&painter);
+        painter.end();
+        const QRect visible = clip & image.rect();
+        QCOMPARE(image.copy(visible), whole.copy(visible));
+    }
+}
+
+void TestStrokePath::hitsAreThoseOfTheWholeOutline()
+{
+    QFETCH(int, seed);
+    QFETCH(int, width);
+    const ElementPtr stroke =
+        samples::freehand(scribble(quint32(seed), 60), { Qt::blue, width, 1.0 });
+    stroke->move(QPoint());
+    for (const int tolerance : { 0, 3, 10 }) {
+        QPainterPathStroker stroker;
+        stroker.setWidth(width + 2 * tolerance);
+        const QPainterPath outline =
+            stroker.createStroke(dynamic_cast<FreehandElement &>(*stroke).path);
+        for (int y = 0; y < kCanvas.height(); y += 7) {
+            for (int x = 0; x < kCanvas.width(); x += 7)
+                QCOMPARE(
+                    stroke->contains(QPoint(x, y), tolerance), outline.contains(QPointF(x, y)));
+        }
+    }
+}
+
+void TestStrokePath::farSegmentsAreLeftOut()
+{
+    QList<QPoint> points;
+    for (int i = 0; i < 1000; ++i)
+        points.append(QPoint(i, i % 5));
+    const QPainterPath path = smoothedPath(points);
+    QVERIFY(segmentsNear(path, QRectF(500, 0, 10, 10)).elementCount() < 60);
+    QVERIFY(segmentsNear(path, QRectF(500, 50, 10, 10)).isEmpty());
+    QCOMPARE(segmentsNear(path, path.boundingRect()), path);
+    QVERIFY(segmentsNear(QPainterPath(), QRectF(0, 0, 10, 10)).isEmpty());
+}
+
+void TestStrokePath::erasersKeepWhatTheyGoAround()
+{
+    const ElementPtr around =
+        samples::freehand({ { 10, 10 }, { 90, 10 }, { 90, 90 }, { 10, 90 } }, { Qt::red, 8, 1.0 });
+    around->isEraser = true;
+    QImage image = samples::blank(QSize(100, 100));
+    image.fill(Qt::green);
+    QPainter painter(&image);
+    painter.setBrush(QColor(Qt::transparent));
+    around->paint(&painter);
+    painter.end();
+    QCOMPARE(image.pixelColor(50, 10).alpha(), 0);
+    QCOMPARE(image.pixelColor(60, 40), QColor(Qt::green));
+}
+
+QTEST_MAIN(TestStrokePath)
+#include "tst_strokepath.moc"
