@@ -58,8 +58,13 @@ bool IniFile::isDamaged() const
     }
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString text = decoder(raw.readAll());
-    return decoder.hasError() || text.contains(QChar::Null)
-        || QSettings(m_path, QSettings::IniFormat).status() == QSettings::FormatError;
+    if (decoder.hasError() || text.contains(QChar::Null)) {
+        return true;
+    }
+    const QSettings file(m_path, QSettings::IniFormat);
+    // Groups are parsed when they are first asked for; only then is their damage noticed.
+    static_cast<void>(file.allKeys());
+    return file.status() == QSettings::FormatError;
 }
 
 bool IniFile::copyAside() const
