@@ -13,6 +13,30 @@
 
 #include <utility>
 
+namespace
+{
+
+/// QSettings keeps a parsed file in memory and reports damage only to whoever happens to parse it,
+/// so its answer depends on who asked before.
+bool isWellFormed(const QString &text)
+{
+    bool continues = false;
+    for (const QString &line : text.split(QLatin1Char('\n'))) {
+        const QString content = line.trimmed();
+        const bool isGroup = content.startsWith(QLatin1Char('['));
+        const bool isComplete =
+            isGroup ? content.contains(QLatin1Char(']')) : content.contains(QLatin1Char('='));
+        if (!continues && !isComplete && !content.isEmpty()
+            && !content.startsWith(QLatin1Char(';'))) {
+            return false;
+        }
+        continues = content.endsWith(QLatin1Char('\\'));
+    }
+    return true;
+}
+
+} // namespace
+
 IniFile::IniFile(QString path) : m_path(std::move(path))
 {
 }
@@ -58,8 +82,7 @@ bool IniFile::isDamaged() const
     }
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString text = decoder(raw.readAll());
-    return decoder.hasError() || text.contains(QChar::Null)
-        || QSettings(m_path, QSettings::IniFormat).status() == QSettings::FormatError;
+    return decoder.hasError() || text.contains(QChar::Null) || !isWellFormed(text);
 }
 
 bool IniFile::copyAside() const

@@ -1,7 +1,5 @@
 #include "settings/systeminfo.h"
 
-#include "platform/systemmemory.h"
-
 #include <QGuiApplication>
 #include <QScreen>
 #include <QStringList>
@@ -32,18 +30,6 @@ QString memoryLine(const QString &format, quint64 bytes)
     return format.arg(mebibytes).arg(static_cast<double>(mebibytes) / 1024.0, 0, 'f', 2);
 }
 
-QStringList memoryLines()
-{
-    const std::optional<SystemMemory> memory = SystemMemory::query();
-    if (!memory) {
-        return {};
-    }
-    return {
-        memoryLine(QStringLiteral("总内存: %1 MB (%2 GB)"), memory->totalBytes),
-        memoryLine(QStringLiteral("可用内存: %1 MB (%2 GB)"), memory->availableBytes),
-    };
-}
-
 } // namespace
 
 QString systemDescription()
@@ -56,6 +42,17 @@ QString systemDescription()
         QStringLiteral("CPU架构: %1").arg(QSysInfo::currentCpuArchitecture()),
         QStringLiteral("主机名: %1").arg(QSysInfo::machineHostName()),
     };
-    lines << screenLines() << memoryLines();
+    lines << screenLines();
+    if (const std::optional<SystemMemory> memory = SystemMemory::query()) {
+        lines << memoryDescription(*memory);
+    }
     return lines.join(QLatin1Char('|'));
+}
+
+QStringList memoryDescription(const SystemMemory &memory)
+{
+    return {
+        memoryLine(QStringLiteral("总内存: %1 MB (%2 GB)"), memory.totalBytes),
+        memoryLine(QStringLiteral("可用内存: %1 MB (%2 GB)"), memory.availableBytes),
+    };
 }

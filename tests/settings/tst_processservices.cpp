@@ -1,0 +1,102 @@
+#include "settings/processservices.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <cstdlib>
+
+namespace
+{
+
+QString besideExecutable(const char *name)
+{
+    return QCoreApplication::applicationDirPath() + QLatin1Char('/') + QLatin1String(name);
+}
+
+void write(const QString &path, const QByteArray &content, QFile::Permissions permissions)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    file.close();
+    QVERIFY(file.setPermissions(permissions));
+}
+
+/// True when `action` asked the running application to quit.
+template <typename Action> bool quitsThroughEventLoop(Action action)
+{
+    bool timedOut = false;
+    QTimer::singleShot(0, qApp, action);
+    QTimer::singleShot(500, qApp, [&timedOut] {
+        timedOut = true;
+        QCoreApplication::exit();
+    });
+    QCoreApplication::exec();
+    return !timedOut;
+}
+
+} // namespace
+
+class TestProcessServices : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aMissingProgramKeepsThisOneRunning();
+    void aProgramIsStartedAndThisOneQuits();
+    void aProgramThatCannotRunStillMakesThisOneQuit();
+    void theNewInstanceIsToldThatItIsARestart();
+};
+
+void TestProcessServices::aMissingProgramKeepsThisOneRunning()
+{
+    QTest::ignoreMessage(
+        QtWarningMsg, QRegularExpression(QStringLiteral("^无法找到可执行文件: .*nosuch\"$")));
+    QVERIFY(
+        !quitsThroughEventLoop([] { ProcessServices::startAndQuit(QStringLiteral("nosuch")); }));
+}
+
+void TestProcessServices::aProgramIsStartedAndThisOneQuits()
+{
+    const QString marker = besideExecutable("started by the test");
+    QFile::remove(marker);
+    write(besideExecutable("update program"),
+        "#!/bin/sh\n: > \"$(dirname \"$0\")/started by the test\"\n",
+        QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
+    QVERIFY(quitsThroughEventLoop(
+        [] { ProcessServices::startAndQuit(QStringLiteral("update program")); }));
+    QTRY_VERIFY(QFile::exists(marker));
+}
+
+void TestProcessServices::aProgramThatCannotRunStillMakesThisOneQuit()
+{
+    write(besideExecutable("no program"), "text", QFile::ReadOwner | QFile::WriteOwner);
+    QVERIFY(
+        quitsThroughEventLoop([] { ProcessServices::startAndQuit(QStringLiteral("no program")); }));
+}
+
+void TestProcessServices::theNewInstanceIsToldThatItIsARestart()
+{
+    const QString marker = besideExecutable("restarted");
+    QFile::remove(marker);
+    QVERIFY(quitsThroughEventLoop([] { ProcessServices::restartApplication(); }));
+    QTRY_VERIFY(QFile::exists(marker));
+}
+
+/// The restarted test program only leaves a trace.
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    if (QCoreApplication::arguments().mid(1) == QStringList{ QStringLiteral("--restart") }) {
+        QFile marker(besideExecutable("restarted"));
+        return marker.open(QIODevice::WriteOnly) ? EXIT_SUCCESS : EXIT_FAILURE;
+    }
+    TestProcessServices test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_processservices.moc"

@@ -1,0 +1,189 @@
+#include "settings/screencapture.h"
+
+#include "tests/settings/throwawaystore.h"
+
+#include <QClipboard>
+#include <QDateTime>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QRasterWindow>
+#include <QScreen>
+#include <QSignalSpy>
+
+namespace
+{
+
+/// Fills the screen with four colours whose borders meet at (101, 51).
+class Pattern : public QRasterWindow
+{
+public:
+    static constexpr QPoint kMeetingPoint{ 101, 51 };
+
+private:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        QPainter painter(this);
+        painter.fillRect(0, 0, 101, 51, Qt::red);
+        painter.fillRect(101, 0, width(), 51, Qt::green);
+        painter.fillRect(0, 51, 101, height(), Qt::blue);
+        painter.fillRect(101, 51, width(), height(), Qt::yellow);
+    }
+};
+
+bool looksLike(const QColor &actual, const QColor &expected)
+{
+    constexpr int kJpegTolerance = 40;
+    return std::abs(actual.red() - expected.red()) < kJpegTolerance
+        && std::abs(actual.green() - expected.green()) < kJpegTolerance
+        && std::abs(actual.blue() - expected.blue()) < kJpegTolerance;
+}
+
+} // namespace
+
+class TestScreenCapture : public QObject
+{
+    Q_OBJECT
+
+public:
+    static void initMain() { ThrowawayStore::use(); }
+
+private slots:
+    void init();
+    void impossibleRegionsAreRefused_data();
+    void impossibleRegionsAreRefused();
+    void aRegionHoldsThePixelsUnderIt();
+    void theWholeScreenLeavesTheClipboardAlone();
+    void aMissingFolderIsCreated();
+    void aFolderThatCannotBeCreatedIsTold();
+    void aFailedSaveStillFillsTheClipboard();
+
+private:
+    void savePicturesIn(const QString &folder);
+
+    QTemporaryDir m_folder;
+};
+
+void TestScreenCapture::init()
+{
+    ThrowawayStore::clear();
+    savePicturesIn(m_folder.path());
+    QGuiApplication::clipboard()->clear();
+}
+
+void TestScreenCapture::savePicturesIn(const QString &folder)
+{
+    ThrowawayStore::Store().setValue(QLatin1String(SettingsKeys::kScreenSavePath), folder);
+}
+
+void TestScreenCapture::impossibleRegionsAreRefused_data()
+{
+    QTest::addColumn<QRect>("region");
+    QTest::addColumn<QString>("warning");
+    const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
+    const QString size = QStringLiteral("无效的宽度或高度： %1 %2");
+    const QString outside = QStringLiteral("指定的区域超出屏幕范围： %1 %2 %3 %4");
+    QTest::newRow("no width") << QRect(0, 0, 0, 10) << size.arg(0).arg(10);
+    QTest::newRow("no height") << QRect(0, 0, 10, -1) << size.arg(10).arg(-1);
+    QTest::newRow("left of the screen")
+        << QRect(-1, 0, 10, 10) << outside.arg(-1).arg(0).arg(10).arg(10);
+    QTest::newRow("above the screen")
+        << QRect(0, -1, 10, 10) << outside.arg(0).arg(-1).arg(10).arg(10);
+    QTest::newRow("one pixel too wide") << QRect(
+        QPoint(1, 0), screen) << outside.arg(1).arg(0).arg(screen.width()).arg(screen.height());
+    QTest::newRow("one pixel too low") << QRect(
+        QPoint(0, 1), screen) << outside.arg(0).arg(1).arg(screen.width()).arg(screen.height());
+}
+
+void TestScreenCapture::impossibleRegionsAreRefused()
+{
+    QFETCH(QRect, region);
+    QFETCH(QString, warning);
+    QTest::ignoreMessage(QtWarningMsg, warning.toUtf8().constData());
+    const ScreenCapture::Outcome outcome = ScreenCapture::captureRegion(region);
+    QVERIFY(outcome.savedPath.isEmpty());
+    QVERIFY(!outcome.failure.isEmpty());
+    QVERIFY(QGuiApplication::clipboard()->image().isNull());
+}
+
+void TestScreenCapture::aRegionHoldsThePixelsUnderIt()
+{
+    Pattern pattern;
+    pattern.setFlag(Qt::FramelessWindowHint);
+    pattern.setGeometry(pattern.screen()->geometry());
+    pattern.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&pattern));
+    QCoreApplication::processEvents();
+
+    const QSize screen = pattern.screen()->geometry().size();
+    const QRect region(QPoint(61, 31), QPoint(screen.width() - 1, screen.height() - 1));
+    const QDateTime before = QDateTime::currentDateTime();
+    const ScreenCapture::Outcome outcome = ScreenCapture::captureRegion(region);
+    QVERIFY2(outcome.failure.isEmpty(), qPrintable(outcome.failure));
+
+    const QFileInfo file(outcome.savedPath);
+    QCOMPARE(file.path(), m_folder.path());
+    const QDateTime stamp =
+        QDateTime::fromString(file.fileName(), QStringLiteral("'draw_'yyyyMMdd_hhmmss'.jpg'"));
+    QVERIFY(before.secsTo(stamp) >= -1 && stamp.secsTo(QDateTime::currentDateTime()) <= 5);
+
+    const QImage saved(outcome.savedPath);
+    const double ratio = pattern.devicePixelRatio();
+    QCOMPARE(saved.size(), (QSizeF(region.size()) * ratio).toSize());
+    const QPoint meeting = ((QPointF(Pattern::kMeetingPoint) - region.topLeft()) * ratio).toPoint();
+    constexpr int kBesideTheBorder = 12;
+    const auto near = [&](int x, int y) {
+        return saved.pixelColor(meeting + QPoint(x, y) * kBesideTheBorder);
+    };
+    QVERIFY(looksLike(near(-1, -1), Qt::red));
+    QVERIFY(looksLike(near(1, -1), Qt::green));
+    QVERIFY(looksLike(near(-1, 1), Qt::blue));
+    QVERIFY(looksLike(near(1, 1), Qt::yellow));
+
+    const QImage pasted = QGuiApplication::clipboard()->image();
+    QCOMPARE(pasted.size(), saved.size());
+    QCOMPARE(pasted.pixelColor(meeting - QPoint(1, 1)), QColor(Qt::red));
+    QCOMPARE(pasted.pixelColor(meeting), QColor(Qt::yellow));
+}
+
+void TestScreenCapture::theWholeScreenLeavesTheClipboardAlone()
+{
+    QGuiApplication::clipboard()->setText(QStringLiteral("kept"));
+    const ScreenCapture::Outcome outcome = ScreenCapture::captureWholeScreen();
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    QCOMPARE(
+        QImage(outcome.savedPath).size(), screen->geometry().size() * screen->devicePixelRatio());
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("kept"));
+}
+
+void TestScreenCapture::aMissingFolderIsCreated()
+{
+    const QString folder = m_folder.filePath(QStringLiteral("新 folder/inner"));
+    savePicturesIn(folder);
+    const ScreenCapture::Outcome outcome = ScreenCapture::captureWholeScreen();
+    QCOMPARE(QFileInfo(outcome.savedPath).path(), folder);
+    QVERIFY(QFile::exists(outcome.savedPath));
+}
+
+void TestScreenCapture::aFolderThatCannotBeCreatedIsTold()
+{
+    savePicturesIn(QStringLiteral("/proc/pictures"));
+    QTest::ignoreMessage(QtWarningMsg, "无法创建截图保存目录： \"/proc/pictures\"");
+    const ScreenCapture::Outcome outcome = ScreenCapture::captureRegion({ 0, 0, 10, 10 });
+    QVERIFY(outcome.failure.contains(QStringLiteral("/proc/pictures")));
+    QVERIFY(QGuiApplication::clipboard()->image().isNull());
+}
+
+void TestScreenCapture::aFailedSaveStillFillsTheClipboard()
+{
+    savePicturesIn(QStringLiteral("/proc"));
+    QTest::ignoreMessage(
+        QtWarningMsg, QRegularExpression(QStringLiteral("^截图保存失败： \"/proc/draw_.*jpg\"$")));
+    const ScreenCapture::Outcome outcome = ScreenCapture::captureRegion({ 0, 0, 10, 10 });
+    QVERIFY(outcome.savedPath.isEmpty());
+    QVERIFY(outcome.failure.contains(QStringLiteral("/proc")));
+    QVERIFY(!QGuiApplication::clipboard()->image().isNull());
+}
+
+QTEST_MAIN(TestScreenCapture)
+#include "tst_screencapture.moc"

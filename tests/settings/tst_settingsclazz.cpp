@@ -1,0 +1,146 @@
+#include "settings/settingsclazz.h"
+#include "tests/settings/throwawaystore.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMetaMethod>
+#include <QSignalSpy>
+
+class TestSettingsClazz : public QObject
+{
+    Q_OBJECT
+
+public:
+    static void initMain() { ThrowawayStore::use(); }
+
+private slots:
+    void init() { ThrowawayStore::clear(); }
+    void theMethodTableKeepsItsOrder();
+    void everyWriteIsAnnouncedOnce();
+    void instancesSeeEachOthersWrites();
+    void theFreeValueIsAnnouncedOnlyWhenItChanges();
+    void theDeploymentFileIsCreatedOnTheFirstWrite();
+    void textReachesTheClipboard();
+    void aFailedCaptureIsTold();
+};
+
+void TestSettingsClazz::theMethodTableKeepsItsOrder()
+{
+    const QList<QByteArray> expected{
+        "settingsChanged()",
+        "getAllSettings()",
+        "addSetting(QString,QVariant)",
+        "getSettingByKey(QString)",
+        "removeSetting(QString)",
+        "captureScreen()",
+        "captureScreen(int,int,int,int)",
+        "selectSaveDirectory(QString)",
+        "selectSaveDirectory()",
+        "restartApplication()",
+        "getIniValue(QString,QString)",
+        "setIniValue(QString,QString,QString)",
+        "saveFile(QByteArray,QString)",
+        "startExeAndExitApp(QString)",
+        "copyToClipboard(QString)",
+        "setLanguage(QString)",
+        "getCurrentLanguage()",
+        "getCurrentLanguageName()",
+        "getTranslation(QString)",
+        "getAvailableLanguages()",
+        "reloadTranslations()",
+        "getSysInfo()",
+    };
+    const QMetaObject &meta = SettingsClazz::staticMetaObject;
+    QList<QByteArray> actual;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        actual << meta.method(i).methodSignature();
+    }
+    QCOMPARE(actual.first(expected.size()), expected);
+    QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
+}
+
+void TestSettingsClazz::everyWriteIsAnnouncedOnce()
+{
+    SettingsClazz settings;
+    QSignalSpy changed(&settings, &SettingsClazz::settingsChanged);
+    QVERIFY(settings.addSetting(QStringLiteral("penKey"), QStringLiteral("F9")));
+    QCOMPARE(changed.size(), 1);
+    QVERIFY(settings.addSetting(QStringLiteral("penKey"), QStringLiteral("F9")));
+    QCOMPARE(changed.size(), 2);
+    QVERIFY(settings.removeSetting(QStringLiteral("penKey")));
+    QCOMPARE(changed.size(), 3);
+
+    const ThrowawayStore::Unwritable unwritable;
+    QVERIFY(!settings.addSetting(QStringLiteral("penKey"), QStringLiteral("F9")));
+    QCOMPARE(changed.size(), 4);
+    QVERIFY(!settings.setLanguage(QStringLiteral("en_US")));
+    QCOMPARE(changed.size(), 5);
+}
+
+void TestSettingsClazz::instancesSeeEachOthersWrites()
+{
+    SettingsClazz palette;
+    SettingsClazz window;
+    QVERIFY(window.addSetting(QStringLiteral("penKey"), QStringLiteral("F9")));
+    QCOMPARE(palette.getSettingByKey(QStringLiteral("penKey")), QStringLiteral("F9"));
+    QCOMPARE(
+        palette.getAllSettings().toMap().value(QStringLiteral("penKey")), QStringLiteral("F9"));
+    QCOMPARE(palette.getSettingByKey(QStringLiteral("noSuchKey")), QString());
+}
+
+void TestSettingsClazz::theFreeValueIsAnnouncedOnlyWhenItChanges()
+{
+    SettingsClazz settings;
+    QSignalSpy changed(&settings, &SettingsClazz::settingsChanged);
+    QVERIFY(!settings.settingsValue().isValid());
+    QVERIFY(settings.setProperty("settingsValue", 5));
+    QVERIFY(settings.setProperty("settingsValue", 5));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(settings.property("settingsValue").toInt(), 5);
+}
+
+void TestSettingsClazz::theDeploymentFileIsCreatedOnTheFirstWrite()
+{
+    const QString path = QCoreApplication::applicationDirPath() + QStringLiteral("/config.ini");
+    QFile::remove(path);
+    SettingsClazz settings;
+    const QVariant missing =
+        settings.getIniValue(QStringLiteral("UPDATE"), QStringLiteral("APPVersion"));
+    QCOMPARE(missing, QVariant(QString()));
+    QVERIFY(!QFile::exists(path));
+
+    settings.setIniValue(
+        QStringLiteral("UPDATE"), QStringLiteral("APPVersion"), QStringLiteral("3.2.0"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().contains("[UPDATE]"));
+    QCOMPARE(settings.getIniValue(QStringLiteral("UPDATE"), QStringLiteral("APPVersion")),
+        QStringLiteral("3.2.0"));
+}
+
+void TestSettingsClazz::textReachesTheClipboard()
+{
+    SettingsClazz().copyToClipboard(QStringLiteral("画"));
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("画"));
+}
+
+void TestSettingsClazz::aFailedCaptureIsTold()
+{
+    SettingsClazz settings;
+    QTest::ignoreMessage(QtWarningMsg, "无效的截图保存路径");
+    settings.captureScreen();
+    QVariantMap result = settings.captureResult();
+    QVERIFY(result.value(QStringLiteral("path")).toString().isEmpty());
+    QVERIFY(!result.value(QStringLiteral("message")).toString().isEmpty());
+
+    // The next one that succeeds is not told the old failure.
+    const QTemporaryDir pictures;
+    QVERIFY(settings.addSetting(QStringLiteral("screenSavePath"), pictures.path()));
+    settings.captureScreen();
+    result = settings.captureResult();
+    QVERIFY(QFile::exists(result.value(QStringLiteral("path")).toString()));
+    QVERIFY(result.value(QStringLiteral("message")).toString().isEmpty());
+}
+
+QTEST_MAIN(TestSettingsClazz)
+#include "tst_settingsclazz.moc"
