@@ -44,11 +44,11 @@ QStringList words(const char *text)
 
 QStringList FfmpegCommand::arguments() const
 {
-    QStringList list = words("-hide_banner -nostdin -nostats -loglevel error -y");
+    QStringList list = words("-hide_banner -nostats -loglevel error -y");
     // Wall-clock times pass through and are moved to the recording's zero, so that inputs which
     // open at different moments stay in step. The clocks of Windows' grabbers do not compare.
     if (grabber == ScreenGrabber::X11)
-        list << words("-copyts") << words(kStartAtOnce)
+        list << words("-nostdin -copyts") << words(kStartAtOnce)
              << words(QStringLiteral("-itsoffset %1").arg(-epochSeconds, 0, 'f', 6));
     list << words(kPictureQueue) << pictureInput();
     for (const SoundInput &input : sound) {

@@ -1,0 +1,334 @@
+#include "tests/recorder/servers.h"
+#include "tests/recorder/videofacts.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+
+namespace
+{
+
+constexpr int kToneHertz = 1000;
+constexpr int kRoomHertz = 440;
+
+/// A running recorder and what it has said.
+class Recorder
+{
+public:
+    explicit Recorder(const QStringList &arguments, const QProcessEnvironment &environment,
+        const QStringList &wrapper = {})
+    {
+        process.setProcessEnvironment(environment);
+        QStringList command = wrapper;
+        command << RECORDER_PROGRAM << arguments;
+        process.start(command.takeFirst(), command);
+    }
+
+    /// Waits until it has taken a file's name.
+    QString file()
+    {
+        if (!m_file.isEmpty())
+            return m_file;
+        while (!process.canReadLine() && process.waitForReadyRead()) { }
+        m_file =
+            QString::fromUtf8(process.readLine()).trimmed().remove(QRegularExpression("^file: "));
+        return m_file;
+    }
+
+    /// Returns how long it took to end, in milliseconds.
+    qint64 end(int signal)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        ::kill(static_cast<pid_t>(process.processId()), signal);
+        process.waitForFinished();
+        return timer.elapsed();
+    }
+
+    QByteArray notes() { return process.readAllStandardError(); }
+
+    /// The processes that it started.
+    QList<pid_t> children() const
+    {
+        const QString pid = QString::number(process.processId());
+        QFile list("/proc/" + pid + "/task/" + pid + "/children");
+        QList<pid_t> pids;
+        if (list.open(QIODevice::ReadOnly)) {
+            for (const QByteArray &child : list.readAll().split(' ')) {
+                if (!child.isEmpty())
+                    pids << child.toInt();
+            }
+        }
+        return pids;
+    }
+
+    QProcess process;
+
+private:
+    QString m_file;
+};
+
+} // namespace
+
+/// The program itself, on a screen and with sounds that the test makes.
+class TestRecorder : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+
+    void recordsPictureAndSound();
+    void hearsTheChosenSources_data();
+    void hearsTheChosenSources();
+    void losesAtMostASecondWhenKilled_data();
+    void losesAtMostASecondWhenKilled();
+    void recordsWithoutASoundServer();
+    void recordsOnWhenTheSoundServerEnds();
+    void tellsOfAFullDisk();
+    void tellsWhyItCannotRecord_data();
+    void tellsWhyItCannotRecord();
+    void leavesNothingWhenStoppedAtOnce();
+    void neverOverwrites();
+
+private:
+    QProcessEnvironment environment() const;
+    QStringList arguments(const QString &audioOption) const
+    {
+        return { "100", "50", "641", "481", m_folder->path() + '/', audioOption };
+    }
+
+    XServer m_screen;
+    SoundServer m_speaker; ///< plays a tone, has no microphone
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void TestRecorder::initTestCase()
+{
+    QVERIFY(m_screen.start(1280, 800));
+    QVERIFY(m_screen.paint("#d04010"));
+    QVERIFY(m_speaker.start(false));
+    QVERIFY(m_speaker.play("speaker", kToneHertz));
+}
+
+void TestRecorder::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+QProcessEnvironment TestRecorder::environment() const
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("DISPLAY", m_screen.display());
+    environment.insert("PULSE_SERVER", m_speaker.address());
+    return environment;
+}
+
+void TestRecorder::recordsPictureAndSound()
+{
+    QElapsedTimer wall;
+    wall.start();
+    Recorder recorder(arguments("--no-mic"), environment());
+    const QString path = recorder.file();
+    QVERIFY(QRegularExpression("/record_\\d{8}_\\d{6}\\.mp4$").match(path).hasMatch());
+    QTest::qWait(3000);
+    const double seconds = static_cast<double>(wall.elapsed()) / 1000;
+    QVERIFY(recorder.end(SIGTERM) < 1000);
+    QCOMPARE(recorder.notes(), QByteArray());
+    QCOMPARE(recorder.process.exitCode(), 0);
+
+    const VideoFacts facts = VideoFacts::of(path);
+    QCOMPARE(facts.size, QSize(640, 480));
+    QVERIFY2(qAbs(facts.picturesPerSecond() - 30) < 3, qPrintable(QString::number(facts.pictures)));
+    QVERIFY2(qAbs(facts.seconds - seconds) < 0.5, qPrintable(QString::number(facts.seconds)));
+    QVERIFY(VideoFacts::toneShare(path, kToneHertz) > 0.9);
+    const QColor colour = VideoFacts::colourAt(path, seconds / 2);
+    QVERIFY2(qAbs(colour.red() - 0xd0) < 8 && qAbs(colour.green() - 0x40) < 8
+            && qAbs(colour.blue() - 0x10) < 8,
+        qPrintable(colour.name()));
+}
+
+void TestRecorder::hearsTheChosenSources_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<bool>("hearsSystem");
+    QTest::addColumn<bool>("hearsMicrophone");
+    QTest::newRow("both") << "" << true << true;
+    QTest::newRow("system") << "--no-mic" << true << false;
+    QTest::newRow("microphone") << "--no-system-audio" << false << true;
+}
+
+void TestRecorder::hearsTheChosenSources()
+{
+    QFETCH(QString, option);
+    QFETCH(bool, hearsSystem);
+    QFETCH(bool, hearsMicrophone);
+    SoundServer server;
+    QVERIFY(server.start(true));
+    QVERIFY(server.play("speaker", kToneHertz));
+    QVERIFY(server.play("room", kRoomHertz));
+    QProcessEnvironment own = environment();
+    own.insert("PULSE_SERVER", server.address());
+
+    Recorder recorder(arguments(option), own);
+    const QString path = recorder.file();
+    QTest::qWait(2500);
+    recorder.end(SIGTERM);
+    QCOMPARE(recorder.notes(), QByteArray());
+    const double system = VideoFacts::toneShare(path, kToneHertz);
+    const double microphone = VideoFacts::toneShare(path, kRoomHertz);
+    QVERIFY2(hearsSystem ? system > 0.2 : system < 0.01, qPrintable(QString::number(system)));
+    QVERIFY2(hearsMicrophone ? microphone > 0.2 : microphone < 0.01,
+        qPrintable(QString::number(microphone)));
+}
+
+void TestRecorder::losesAtMostASecondWhenKilled_data()
+{
+    QTest::addColumn<bool>("encoderToo");
+    QTest::newRow("recorder") << false;
+    QTest::newRow("recorder and encoder") << true;
+}
+
+void TestRecorder::losesAtMostASecondWhenKilled()
+{
+    QFETCH(bool, encoderToo);
+    Recorder recorder(arguments("--no-mic"), environment());
+    const QString path = recorder.file();
+    QElapsedTimer wall;
+    wall.start();
+    QTest::qWait(3000);
+    const QList<pid_t> encoders = recorder.children();
+    QCOMPARE(encoders.size(), 1);
+    const double seconds = static_cast<double>(wall.elapsed()) / 1000;
+    if (encoderToo)
+        ::kill(encoders.first(), SIGKILL);
+    recorder.end(SIGKILL);
+    QTRY_VERIFY(::kill(encoders.first(), 0) != 0);
+
+    const VideoFacts facts = VideoFacts::of(path);
+    QVERIFY(facts.plays);
+    QVERIFY2(facts.seconds > seconds - 1, qPrintable(QString::number(facts.seconds)));
+    QVERIFY(VideoFacts::toneShare(path, kToneHertz) > 0.9);
+}
+
+void TestRecorder::recordsWithoutASoundServer()
+{
+    QProcessEnvironment silent = environment();
+    silent.insert("PULSE_SERVER", "unix:/nowhere");
+    Recorder recorder(arguments(""), silent);
+    const QString path = recorder.file();
+    QTest::qWait(1000);
+    recorder.end(SIGTERM);
+    QCOMPARE(recorder.process.exitCode(), 0);
+    QVERIFY(recorder.notes().startsWith("warning[no-sound-server]: "));
+    const VideoFacts facts = VideoFacts::of(path);
+    QVERIFY(facts.plays);
+    QVERIFY(!facts.hasSound);
+}
+
+void TestRecorder::recordsOnWhenTheSoundServerEnds()
+{
+    SoundServer server;
+    QVERIFY(server.start(true));
+    QVERIFY(server.play("speaker", kToneHertz));
+    QProcessEnvironment own = environment();
+    own.insert("PULSE_SERVER", server.address());
+    Recorder recorder(arguments(""), own);
+    const QString path = recorder.file();
+    QTest::qWait(1500);
+    server.kill();
+    QTest::qWait(1500);
+    QVERIFY(recorder.end(SIGTERM) < 1000);
+    const QByteArray notes = recorder.notes();
+    QVERIFY(notes.contains("warning[no-system-sound]: "));
+    QVERIFY(notes.contains("warning[no-microphone]: "));
+    QVERIFY(VideoFacts::of(path).seconds > 2.5);
+    QVERIFY(VideoFacts::toneShare(path, kToneHertz) > 0.5);
+}
+
+void TestRecorder::tellsOfAFullDisk()
+{
+    // A disk of its own that a few pictures fill; it goes with the recorder.
+    const QStringList smallDisk{ "unshare", "--map-root-user", "--mount", "sh", "-c",
+        "mount -t tmpfs -o size=16k none \"$0\" && exec \"$@\"", m_folder->path() };
+    Recorder recorder(arguments("--no-mic"), environment(), smallDisk);
+    QVERIFY(recorder.process.waitForFinished());
+    const QByteArray notes = recorder.notes();
+    QVERIFY2(notes.startsWith("error[disk-full]: "), notes.constData());
+    QCOMPARE(recorder.process.exitCode(), 1);
+}
+
+void TestRecorder::tellsWhyItCannotRecord_data()
+{
+    QTest::addColumn<QString>("variable");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QByteArray>("note");
+    const QStringList good{ "0", "0", "100", "100", "OUT/", "--no-audio" };
+    QTest::newRow("no FFmpeg") << "PATH"
+                               << "/nowhere" << good << 1 << QByteArray("error[no-encoder]: ");
+    QTest::newRow("no screen") << "DISPLAY"
+                               << ":9999" << good << 1 << QByteArray("error[no-screen]: ");
+    QTest::newRow("no folder") << "A"
+                               << "B" << QStringList{ "0", "0", "100", "100", "/proc/none/", "" }
+                               << 1 << QByteArray("error[cannot-write]: ");
+    QTest::newRow("off the screen") << "A"
+                                    << "B" << QStringList{ "1279", "0", "100", "100", "OUT/", "" }
+                                    << 1 << QByteArray("error[region-too-small]: ");
+    QTest::newRow("wrongly called")
+        << "A"
+        << "B" << QStringList{ "0", "0", "100" } << 2 << QByteArray("error[usage]: ");
+}
+
+void TestRecorder::tellsWhyItCannotRecord()
+{
+    QFETCH(QString, variable);
+    QFETCH(QString, value);
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, note);
+    QProcessEnvironment own = environment();
+    own.insert(variable, value);
+    arguments.replaceInStrings("OUT", m_folder->path());
+    Recorder recorder(arguments, own);
+    QVERIFY(recorder.process.waitForFinished());
+    QTEST(recorder.process.exitCode(), "exitCode");
+    const QByteArray notes = recorder.notes();
+    QVERIFY2(notes.startsWith(note) && notes.count('\n') == 1, notes.constData());
+    QVERIFY(QDir(m_folder->path()).isEmpty());
+}
+
+void TestRecorder::leavesNothingWhenStoppedAtOnce()
+{
+    Recorder recorder(arguments("--no-audio"), environment());
+    QVERIFY(!recorder.file().isEmpty());
+    recorder.end(SIGTERM);
+    if (recorder.process.exitCode() == 0) // it was faster than we
+        return;
+    QVERIFY(recorder.notes().startsWith("error[nothing-recorded]: "));
+    QVERIFY(QDir(m_folder->path()).isEmpty());
+}
+
+void TestRecorder::neverOverwrites()
+{
+    const QString path = m_folder->path() + "/lesson.mp4";
+    QFile precious(path);
+    QVERIFY(precious.open(QIODevice::WriteOnly));
+    precious.write("precious");
+    precious.close();
+    Recorder recorder({ "0", "0", "100", "100", path, "--no-audio" }, environment());
+    QCOMPARE(recorder.file(), m_folder->path() + "/lesson_2.mp4");
+    QTRY_VERIFY(VideoFacts::of(recorder.file()).plays);
+    recorder.end(SIGINT);
+    QCOMPARE(recorder.process.exitCode(), 0);
+    QVERIFY(precious.open(QIODevice::ReadOnly));
+    QCOMPARE(precious.readAll(), QByteArray("precious"));
+}
+
+QTEST_GUILESS_MAIN(TestRecorder)
+#include "tst_recorder.moc"
