@@ -15,9 +15,13 @@ constexpr QPainter::RenderHints kRenderHints =
 
 void paintElement(QPainter &painter, const DrawingElement &element)
 {
-    // No element's fill may leak into the next one.
+    // Nothing of an element may leak into the next one: neither its fill, nor what the painting
+    // engine keeps of its pen. After an invisible pen it blends glyphs otherwise, so a picture
+    // would tell whether an element was skipped.
+    painter.save();
     painter.setBrush(QBrush(Qt::transparent, Qt::SolidPattern));
     element.paint(&painter);
+    painter.restore();
 }
 
 /// The whole device pixels that `area` touches.
@@ -47,14 +51,9 @@ void Renderer::rebuild(const QSize &size)
 
 void Renderer::resize(const QSize &size)
 {
-    QImage resized = emptyPicture(size);
+    const QImage blank = emptyPicture(size);
     const QImage &old = picture();
-    if (!old.isNull() && !resized.isNull()) {
-        QPainter painter(&resized);
-        painter.setRenderHints(kRenderHints);
-        painter.drawImage(QPointF(), old);
-    }
-    m_picture = std::move(resized);
+    m_picture = old.isNull() || blank.isNull() ? blank : old.copy(blank.rect());
     m_size = size;
     m_staleAfterResize = true;
 }

@@ -59,7 +59,9 @@ QRect ArrowElement::boundingRect() const
 
 QRect ArrowElement::paintedRect() const
 {
-    const QRectF area = pointsArea() | QPolygonF(head()).boundingRect();
+    // An arrow without a head may be a point, and uniting that with nothing would lose it.
+    const QPolygonF triangle(head());
+    const QRectF area = triangle.isEmpty() ? pointsArea() : pointsArea() | triangle.boundingRect();
     return geometry::enclosingRect(area, penReach());
 }
 

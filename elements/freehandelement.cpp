@@ -9,6 +9,12 @@
 #include <algorithm>
 #include <cmath>
 
+namespace
+{
+/// Device pixels; the rasterizer cuts lines off at about twice as far.
+constexpr QRectF kRasterRange(-16384, -16384, 32768, 32768);
+} // namespace
+
 FreehandElement::FreehandElement(const QColor &penColor, int width, double penOpacity)
     : DrawingElement(Freehand, penColor, width, penOpacity)
 {
@@ -50,9 +56,13 @@ QPainterPath FreehandElement::visiblePath(const QPainter &painter) const
 {
     // Lines of up to a device pixel are traced from end to end, quickly but so that their pixels
     // depend on where the trace began.
-    const double magnification = painter.combinedTransform().determinant();
-    const bool isTraced = std::abs(magnification) * penWidth * penWidth <= 1.0;
-    if (isTraced || !painter.hasClipping())
+    const QTransform &transform = painter.combinedTransform();
+    const double width = std::max(penWidth, 0);
+    const bool isTraced = std::abs(transform.determinant()) * width * width <= 1.0;
+    // Of a line that leaves the range of the rasterizer all the other pixels change slightly.
+    const QRectF extent = transform.mapRect(QRectF(paintedRect()));
+    const bool isFar = !kRasterRange.contains(extent);
+    if (isTraced || isFar || !painter.hasClipping())
         return path;
     const double reach = penReach();
     return segmentsNear(path, painter.clipBoundingRect().adjusted(-reach, -reach, reach, reach));

@@ -27,6 +27,13 @@ qint64 wholeEdge(double edge)
     return static_cast<qint64>(std::clamp(edge, -kLimit, kLimit));
 }
 
+/// An edge far outside any canvas, brought near enough for the distance of two to fit an `int`.
+int nearEdge(double edge)
+{
+    constexpr double kFar = 1 << 29;
+    return static_cast<int>(std::clamp(edge, -kFar, kFar));
+}
+
 struct Span {
     int from;
     int to;
@@ -108,11 +115,11 @@ QRect grown(const QRect &rect, int margin)
 
 QRect enclosingRect(const QRectF &area, double margin)
 {
-    const qint64 left = wholeEdge(std::floor(area.left() - margin));
-    const qint64 top = wholeEdge(std::floor(area.top() - margin));
-    const qint64 right = wholeEdge(std::ceil(area.right() + margin));
-    const qint64 bottom = wholeEdge(std::ceil(area.bottom() + margin));
-    return saturatedRect(left, top, right - left, bottom - top);
+    const QPoint topLeft(
+        nearEdge(std::floor(area.left() - margin)), nearEdge(std::floor(area.top() - margin)));
+    const QPoint end(
+        nearEdge(std::ceil(area.right() + margin)), nearEdge(std::ceil(area.bottom() + margin)));
+    return { topLeft, end - QPoint(1, 1) };
 }
 
 double squaredLength(const QPointF &vector)

@@ -29,7 +29,8 @@ namespace geometry
 [[nodiscard]] QRect framed(const QRectF &area, qint64 before, qint64 extra);
 /// The rectangle with `margin` more on every side.
 [[nodiscard]] QRect grown(const QRect &rect, int margin);
-/// The smallest whole-pixel rectangle around `area` grown by `margin` on every side.
+/// The smallest whole-pixel rectangle around `area` grown by `margin` on every side, as far as
+/// canvases reach: edges far outside are moved nearer.
 [[nodiscard]] QRect enclosingRect(const QRectF &area, double margin);
 
 [[nodiscard]] double squaredLength(const QPointF &vector);

@@ -12,9 +12,9 @@ QImage referencePicture(const ElementList &elements, const QSize &size, qreal de
     QImage picture(size * devicePixelRatio, QImage::Format_ARGB32);
     picture.setDevicePixelRatio(devicePixelRatio);
     picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     for (const ElementPtr &element : elements) {
+        QPainter painter(&picture); // a new one has nothing left over from the element before
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
         painter.setBrush(QBrush(Qt::transparent, Qt::SolidPattern));
         // Painting may fill an element's caches: a copy keeps the original as the canvas left it.
         copyOf(element.get())->paint(&painter);

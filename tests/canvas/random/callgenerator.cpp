@@ -3,6 +3,7 @@
 #include "canvas/fadeeffect.h"
 #include "tests/canvas/random/historyoracle.h"
 
+#include <QDebug>
 #include <QTimer>
 
 #include <algorithm>
@@ -39,7 +40,9 @@ QString say(double value)
 
 QString say(const QString &text)
 {
-    return QStringLiteral("\"%1\"").arg(text.left(kShownText));
+    QString shown;
+    QDebug(&shown).nospace() << text.left(kShownText);
+    return shown;
 }
 
 Expectation::Repaint always(bool condition)
@@ -164,8 +167,9 @@ QString CallGenerator::text()
         QStringLiteral("a"), QStringLiteral("one\r\ntwo\n\nfour"), QStringLiteral("typed\\nfeed"),
         QStringLiteral("标注 中文，文字"), QStringLiteral("שלום عليكم abc 123"),
         QStringLiteral("e\u0301\u0308\u0323 Z\u0351\u0343\u036b"),
-        QStringLiteral("👩‍👩‍👧 🏳️‍🌈 \U0001F1E8"), QString(QChar(0xd800)) + QChar(0) + QChar(0x202e),
-        QString(400, u'W'), QStringLiteral("word ").repeated(60) });
+        QStringLiteral("👩‍👩‍👧 🏳️‍🌈 \U0001F1E8"),
+        QString(QChar(0xd800)) + QChar(0) + QChar(0x202e), QString(400, u'W'),
+        QStringLiteral("word ").repeated(60) });
 }
 
 Call CallGenerator::press()
@@ -197,10 +201,10 @@ Call CallGenerator::move()
                 const bool erases = canvas.isEraserMode();
                 const bool drags = !erases && canvas.drawMode() >= MyPainter::FreehandMode
                     && canvas.drawMode() <= MyPainter::ArrowMode;
-                const bool first = std::exchange(
-                    stage.gestureBegun, stage.gestureBegun && !erases && !drags);
+                const bool first =
+                    std::exchange(stage.gestureBegun, stage.gestureBegun && !erases && !drags);
                 return Expectation{ .repaint = Expectation::Always,
-                    .board = erases       ? Expectation::Reduced
+                    .board = erases      ? Expectation::Reduced
                         : drags && first ? Expectation::Appended
                                          : Expectation::Unchanged };
             } };
@@ -246,7 +250,8 @@ Call CallGenerator::setPen()
         QColor(255, 255, 0, 3), QColor(Qt::transparent), QColor() });
     const int size = length();
     const double opacity = oneOf({ 1.0, 0.99, 0.98, 0.5, 0.3, 0.0, -1.0, 7.0, kNan });
-    return { say("pen %1, %2, %3", color.name(QColor::HexArgb), QString::number(size), say(opacity)),
+    return { say("pen %1, %2, %3", color.name(QColor::HexArgb), QString::number(size),
+                 say(opacity)),
         [=](Stage &stage) {
             stage.canvas.setPenColor(color);
             stage.canvas.setPenSize(size);
@@ -272,8 +277,9 @@ Call CallGenerator::placeText()
     return { say("addText(%1)", say(pos)), [=](Stage &stage) {
                 const bool places = !stage.canvas.textToDraw().isEmpty();
                 stage.canvas.addText(pos);
-                return places ? Expectation{ .repaint = Expectation::Always, .board = Expectation::Appended }
-                              : Expectation{ .quiet = true };
+                return places
+                    ? Expectation{ .repaint = Expectation::Always, .board = Expectation::Appended }
+                    : Expectation{ .quiet = true };
             } };
 }
 
@@ -287,8 +293,9 @@ Call CallGenerator::placePreparedText()
                 const bool places =
                     !content.trimmed().isEmpty() && content != QStringLiteral("添加文字...");
                 stage.canvas.addText(content, pos.x(), pos.y(), size);
-                return places ? Expectation{ .repaint = Expectation::Always, .board = Expectation::Appended }
-                              : Expectation{ .quiet = true };
+                return places
+                    ? Expectation{ .repaint = Expectation::Always, .board = Expectation::Appended }
+                    : Expectation{ .quiet = true };
             } };
 }
 
@@ -456,10 +463,9 @@ Call CallGenerator::stepEffects()
                 for (int i = 1; i < ticks; ++i)
                     fireTimers(stage.canvas, fades);
                 // Breathing lets go of a lone mark, with or without touching it.
-                return Expectation{
-                    .repaint = !fades && count == 1 ? Expectation::Perhaps : always(ran),
-                    .board = fades ? Expectation::Reduced : Expectation::Unchanged
-                };
+                return Expectation{ .repaint =
+                                        !fades && count == 1 ? Expectation::Perhaps : always(ran),
+                    .board = fades ? Expectation::Reduced : Expectation::Unchanged };
             } };
 }
 

@@ -105,8 +105,8 @@ QString Stage::topmostAt(const QPoint &pos, int tolerance) const
 
 void Stage::resize(const QSizeF &size)
 {
-    const bool changesPicture =
-        std::abs(size.width() - canvas.width()) > 1 || std::abs(size.height() - canvas.height()) > 1;
+    const bool changesPicture = std::abs(size.width() - canvas.width()) > 1
+        || std::abs(size.height() - canvas.height()) > 1;
     const QSize canvasSize(
         geometry::truncated(canvas.width()), geometry::truncated(canvas.height()));
     if (!m_frozen)
@@ -115,8 +115,8 @@ void Stage::resize(const QSizeF &size)
     canvas.setSize(size);
     if (!changesPicture)
         return;
-    QImage resized = referencePicture(
-        ElementList(), QSize(geometry::truncated(size.width()), geometry::truncated(size.height())));
+    QImage resized = referencePicture(ElementList(),
+        QSize(geometry::truncated(size.width()), geometry::truncated(size.height())));
     if (!m_frozenPicture.isNull() && !resized.isNull())
         resized = m_frozenPicture.copy(resized.rect());
     m_frozenPicture = resized;
@@ -144,14 +144,16 @@ QString Stage::boardProblem(const Expectation &expected, const Before &before) c
 {
     const QStringList ids = idsOf(canvas.document());
     const auto &undo = canvas.document().history.undoEntries();
-    if (expected.topBounds && canvas.document().elements.last()->boundingRect() != expected.topBounds)
+    if (expected.topBounds
+        && canvas.document().elements.last()->boundingRect() != expected.topBounds)
         return QStringLiteral("the step did not give the topmost element its state");
     if (expected.ids)
         return ids == *expected.ids ? QString() : QStringLiteral("other elements than expected");
     if (expected.board == Expectation::Unchanged)
         return ids == before.ids ? QString() : QStringLiteral("elements changed");
     if (expected.board == Expectation::Reduced)
-        return isSubsequence(ids, before.ids) ? QString() : QStringLiteral("elements added or moved");
+        return isSubsequence(ids, before.ids) ? QString()
+                                              : QStringLiteral("elements added or moved");
     if (ids.size() != before.ids.size() + 1 || ids.mid(0, before.ids.size()) != before.ids)
         return QStringLiteral("no element was added on top");
     if (canvas.canRedo() || undo.back().kind != HistoryEntry::Add
