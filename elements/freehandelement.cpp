@@ -123,17 +123,28 @@ QRect FreehandElement::paintedRect() const
     return geometry::enclosingRect(area, penReach());
 }
 
+QRect FreehandElement::paintedRectFrom(qsizetype firstNewPoint) const
+{
+    // Hairlines are traced in one go, and a longer one may differ anywhere.
+    if (points.isEmpty() || penWidth <= kHairlinePx)
+        return paintedRect();
+    // The curve used to end half way between the last two of the old points.
+    const qsizetype first = std::clamp<qsizetype>(firstNewPoint - 2, 0, points.size() - 1);
+    return geometry::enclosingRect(pointsArea(first), penReach());
+}
+
 void FreehandElement::rebuildPath()
 {
     path = smoothedPath(points);
 }
 
-QRectF FreehandElement::pointsArea() const
+QRectF FreehandElement::pointsArea(qsizetype first) const
 {
+    const auto begin = points.cbegin() + first;
     const auto byX = [](const QPoint &a, const QPoint &b) { return a.x() < b.x(); };
     const auto byY = [](const QPoint &a, const QPoint &b) { return a.y() < b.y(); };
-    const auto [left, right] = std::minmax_element(points.cbegin(), points.cend(), byX);
-    const auto [top, bottom] = std::minmax_element(points.cbegin(), points.cend(), byY);
+    const auto [left, right] = std::minmax_element(begin, points.cend(), byX);
+    const auto [top, bottom] = std::minmax_element(begin, points.cend(), byY);
     return { QPointF(left->x(), top->y()), QPointF(right->x(), bottom->y()) };
 }
 

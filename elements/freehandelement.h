@@ -20,6 +20,9 @@ public:
     QRect boundingRect() const override;
     void scaleAxes(double factorX, double factorY, const QPoint &center) override;
     QRect paintedRect() const override;
+    /// Every pixel that changed when the points from this index on were appended: the new end of
+    /// the curve and the old one. Much smaller than `paintedRect` while a long stroke is drawn.
+    QRect paintedRectFrom(qsizetype firstNewPoint) const;
     /// Builds the curve anew from the points.
     void rebuildPath();
 
@@ -29,8 +32,8 @@ public:
     mutable QPainterPath path;
 
 private:
-    /// The rectangle from the outermost points; there must be a point.
-    QRectF pointsArea() const;
+    /// The rectangle around the points from this index on; there must be one.
+    QRectF pointsArea(qsizetype first = 0) const;
     void drawPath(QPainter *painter) const;
     /// The path without what the painter's clip hides.
     QPainterPath visiblePath(const QPainter &painter) const;
