@@ -1,4 +1,5 @@
 import QtQuick
+import "Theme.js" as Theme
 
 /// Shows in the pen button what the pen will draw: the mark in the button's picture takes the
 /// colour, the opacity and, for a pen, the thickness of the canvas's pen.
@@ -43,6 +44,7 @@ Item {
         antialiasing: true
         color: root.canvas ? root.canvas.penColor : "transparent"
         opacity: root.canvas ? root.canvas.penOpacity : 1
-        border { width: 0.5; color: Qt.darker(color, 1.25) }
+        // Pale ink would vanish on the white button.
+        border { width: color.hslLightness > 0.8 ? 1 : 0; color: Theme.inkMuted }
     }
 }

@@ -20,6 +20,10 @@ QtObject {
         return right - (palette.x + palette.width);
     }
 
+    /// Where the palette appears when the program starts.
+    readonly property point start: startPosition(Math.floor(50 * palette.scaleFactor),
+                                                 Math.floor(800 * palette.scaleFactor))
+
     function startPosition(width, height) {
         const main = Application.screens[0];
         if (!main)

@@ -33,6 +33,7 @@ Item {
         window.dismissed.connect(closeAbout);
         window.placeBeside(palette, palette.x + (palette.rightMargin <= 400 ? -400 : 60));
         window.show();
+        window.requestActivate();
     }
 
     function closeAbout() {

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Window
 import Cpp.MyComponents
+import Dravelin.Platform
 
 /// The tool palette: the program's main window, always on top at the edge of the screen.
 Window {
@@ -42,9 +43,9 @@ Window {
     readonly property alias windows: windows
     readonly property alias tip: tip
 
-    /// Keeps a click on the palette from taking the keyboard away from what the user types in.
-    /// With the pointer elsewhere the palette may be reached with the window switcher.
-    readonly property bool refusesKeyboard: !shownOnce || (pointer.hovered && !active)
+    /// A click on the palette must not take the keyboard away from what the user types in. With the
+    /// pointer elsewhere the palette may be reached with the window switcher.
+    readonly property bool refusesKeyboard: !shownOnce || ((pointer.hovered || dragging) && !active)
     property bool shownOnce: false
 
     function leaveText() {
@@ -85,11 +86,16 @@ Window {
     color: "transparent"
     width: 50 * scaleFactor
     height: (sheet.isOpen ? 99 : 800) * scaleFactor
-    x: placement.startPosition(width, height).x
-    y: placement.startPosition(width, height).y
+    x: placement.start.x
+    y: placement.start.y
     visible: true
 
     onFrameSwapped: shownOnce = true
+    onActiveChanged: {
+        // A tap, without any hovering before it, was quicker than the refusal.
+        if (active && pointer.hovered)
+            focusReturn.giveBackAfterClick();
+    }
     onVisibleChanged: {
         if (visible)
             return;
@@ -99,6 +105,9 @@ Window {
     onClosing: Qt.quit()
 
     Component.onCompleted: {
+        // From here on it stays where it is.
+        x = x;
+        y = y;
         if (settingClazz.getIniValue("UPDATE", "APPVersion") !== appVersion)
             settingClazz.setIniValue("UPDATE", "APPVersion", appVersion);
         updates.readAddresses();
@@ -134,6 +143,7 @@ Window {
     ButtonToolTip { id: tip; palette: root; flyouts: flyouts }
 
     HoverHandler { id: pointer }
+    FocusReturn { id: focusReturn; window: root }
 
     Column {
         spacing: Math.round(10 * root.scaleFactor)
