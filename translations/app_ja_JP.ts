@@ -250,6 +250,40 @@
     </message>
 </context>
 <context>
+    <name>PenColorDialog</name>
+    <message>
+        <source>画笔颜色</source>
+        <translation>ペンの色</translation>
+    </message>
+    <message>
+        <source>颜色代码</source>
+        <translation>カラーコード</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>PictureDialog</name>
+    <message>
+        <source>查找位置：</source>
+        <translation>場所:</translation>
+    </message>
+    <message>
+        <source>文件名：</source>
+        <translation>ファイル名:</translation>
+    </message>
+    <message>
+        <source>文件类型：</source>
+        <translation>ファイルの種類:</translation>
+    </message>
+</context>
+<context>
     <name>PictureExport</name>
     <message>
         <source>画布上没有内容，无需保存</source>

@@ -250,6 +250,40 @@
     </message>
 </context>
 <context>
+    <name>PenColorDialog</name>
+    <message>
+        <source>画笔颜色</source>
+        <translation>펜 색상</translation>
+    </message>
+    <message>
+        <source>颜色代码</source>
+        <translation>색상 코드</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>PictureDialog</name>
+    <message>
+        <source>查找位置：</source>
+        <translation>찾는 위치:</translation>
+    </message>
+    <message>
+        <source>文件名：</source>
+        <translation>파일 이름:</translation>
+    </message>
+    <message>
+        <source>文件类型：</source>
+        <translation>파일 형식:</translation>
+    </message>
+</context>
+<context>
     <name>PictureExport</name>
     <message>
         <source>画布上没有内容，无需保存</source>

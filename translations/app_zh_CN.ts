@@ -250,6 +250,40 @@
     </message>
 </context>
 <context>
+    <name>PenColorDialog</name>
+    <message>
+        <source>画笔颜色</source>
+        <translation>画笔颜色</translation>
+    </message>
+    <message>
+        <source>颜色代码</source>
+        <translation>颜色代码</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>PictureDialog</name>
+    <message>
+        <source>查找位置：</source>
+        <translation>查找位置：</translation>
+    </message>
+    <message>
+        <source>文件名：</source>
+        <translation>文件名：</translation>
+    </message>
+    <message>
+        <source>文件类型：</source>
+        <translation>文件类型：</translation>
+    </message>
+</context>
+<context>
     <name>PictureExport</name>
     <message>
         <source>画布上没有内容，无需保存</source>

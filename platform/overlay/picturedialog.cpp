@@ -17,7 +17,8 @@ void PictureDialog::open()
         m_dialog = std::make_unique<QFileDialog>();
         m_dialog->setFileMode(QFileDialog::ExistingFile);
         m_dialog->setWindowFlag(Qt::WindowStaysOnTopHint);
-        connect(m_dialog.get(), &QFileDialog::urlSelected, this, [this](const QUrl &file) {
+        connect(m_dialog.get(), &QFileDialog::accepted, this, [this] {
+            const QUrl file = m_dialog->selectedUrls().value(0);
             m_folder = file.adjusted(QUrl::RemoveFilename);
             emit accepted(file);
         });
@@ -26,6 +27,9 @@ void PictureDialog::open()
     m_dialog->setWindowTitle(m_title);
     m_dialog->setLabelText(QFileDialog::Accept, m_acceptLabel);
     m_dialog->setLabelText(QFileDialog::Reject, m_rejectLabel);
+    m_dialog->setLabelText(QFileDialog::LookIn, tr("查找位置："));
+    m_dialog->setLabelText(QFileDialog::FileName, tr("文件名："));
+    m_dialog->setLabelText(QFileDialog::FileType, tr("文件类型："));
     m_dialog->setNameFilter(m_nameFilter);
     if (!m_dialog->isVisible())
         m_dialog->setDirectoryUrl(m_folder);

@@ -22,6 +22,8 @@ MouseArea {
     property bool draggingPicture: false
     /// The press has done all that its gesture is for; the click after it means nothing.
     property bool consumed: false
+    /// The press was made to place a text editor: a hot key may change the mode before its release.
+    property bool placingText: false
     property point lastPos
 
     /// A click drew or deleted something.
@@ -65,6 +67,7 @@ MouseArea {
     }
 
     function press(pos: point, button: int, modifiers: int): void {
+        root.placingText = root.textMode;
         root.consumed = root.texts.open && !root.texts.covers(pos, 10);
         if (root.consumed) {
             console.log(OverlayLog.editorLeft);
@@ -86,7 +89,7 @@ MouseArea {
     function click(pos: point, button: int): void {
         if (root.consumed || (button === Qt.LeftButton && root.frame.covers(pos)))
             return;
-        if (root.textMode) {
+        if (root.placingText) {
             if (!root.texts.open)
                 root.texts.placeAt(pos);
             else if (root.texts.submitAndClose())
