@@ -58,7 +58,9 @@ class Palette:
         return self._at(WIDTH * SCALE / 2, top + number * pitch + BUTTON_HEIGHT * SCALE / 2)
 
     def click(self, tool, button=1):
-        self._desktop.pointer.click(*self.point(tool), button=button)
+        point = self.point(tool)
+        self._expect_uncovered(self.window, point)
+        self._desktop.pointer.click(*point, button=button)
 
     def hover(self, tool):
         x, y = self.point(tool)
@@ -77,7 +79,9 @@ class Palette:
         flyout = self.open_flyout(tool)
         number = FLYOUTS[tool].index(row)
         y = (_px(FIRST_ROW) + (number + 0.45) * ROW_PITCH * SCALE) * self._dpr
-        self._desktop.pointer.click(*flyout.at(flyout.geometry.width * 0.55, y))
+        point = flyout.at(flyout.geometry.width * 0.55, y)
+        self._expect_uncovered(flyout, point)
+        self._desktop.pointer.click(*point)
         self._wait(lambda: flyout not in self._program.windows(), f"the {tool} flyout to close")
 
     def start_drawing(self):
@@ -94,6 +98,10 @@ class Palette:
 
     def _at(self, x, y):
         return self.window.at(x * self._dpr, y * self._dpr)
+
+    def _expect_uncovered(self, window, point):
+        self._wait(lambda: self._desktop.windows.at(*point) == window,
+                   f"{window} to lie uncovered at {point}")
 
     def _is_flyout(self, rect, rows=None):
         counts = [rows] if rows else {len(names) for names in FLYOUTS.values()}
