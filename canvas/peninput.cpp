@@ -89,11 +89,11 @@ QRect PenInput::reshape(const QPoint &target)
     DrawingElement *current = m_current.get();
     if (!current)
         return {};
+    // The curve is rebuilt at once: what can be seen can be hit, painted or not.
+    if (auto *stroke = dynamic_cast<FreehandElement *>(current))
+        return stroke->replacePoints(m_strokePoints);
     const QRect before = current->paintedRect();
-    if (auto *stroke = dynamic_cast<FreehandElement *>(current)) {
-        stroke->points = m_strokePoints;
-        stroke->rebuildPath(); // what can be seen can be hit, painted or not
-    } else if (auto *circle = dynamic_cast<CircleElement *>(current)) {
+    if (auto *circle = dynamic_cast<CircleElement *>(current)) {
         circle->radius = distanceBetween(m_startPos, target);
     } else if (auto *shape = dynamic_cast<TwoPointElement *>(current)) {
         shape->end = target;

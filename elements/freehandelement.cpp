@@ -123,10 +123,23 @@ QRect FreehandElement::paintedRect() const
     return geometry::enclosingRect(area, penReach());
 }
 
+QRect FreehandElement::replacePoints(const QList<QPoint> &replacement)
+{
+    const QRect before = paintedRect();
+    const qsizetype drawn = points.size();
+    const bool grows = drawn <= replacement.size()
+        && std::equal(points.cbegin(), points.cend(), replacement.cbegin());
+    points = replacement;
+    rebuildPath();
+    return grows ? paintedRectFrom(drawn) : before | paintedRect();
+}
+
 QRect FreehandElement::paintedRectFrom(qsizetype firstNewPoint) const
 {
-    // Hairlines are traced in one go, and a longer one may differ anywhere.
-    if (points.isEmpty() || penWidth <= kHairlinePx)
+    // A hairline is traced in one go, and a stroke that leaves the range of the rasterizer is cut
+    // off there; either may then differ anywhere. Pictures have up to four device pixels to one.
+    constexpr QRect kRange(-8000, -8000, 16000, 16000);
+    if (penWidth <= 1 || points.isEmpty() || !kRange.contains(paintedRect()))
         return paintedRect();
     // The curve used to end half way between the last two of the old points.
     const qsizetype first = std::clamp<qsizetype>(firstNewPoint - 2, 0, points.size() - 1);

@@ -20,9 +20,9 @@ public:
     QRect boundingRect() const override;
     void scaleAxes(double factorX, double factorY, const QPoint &center) override;
     QRect paintedRect() const override;
-    /// Every pixel that changed when the points from this index on were appended: the new end of
-    /// the curve and the old one. Much smaller than `paintedRect` while a long stroke is drawn.
-    QRect paintedRectFrom(qsizetype firstNewPoint) const;
+    /// Takes these points, rebuilds the curve and answers every pixel that may have changed. While
+    /// a stroke grows that is only its end, however long it has become.
+    QRect replacePoints(const QList<QPoint> &replacement);
     /// Builds the curve anew from the points.
     void rebuildPath();
 
@@ -34,6 +34,8 @@ public:
 private:
     /// The rectangle around the points from this index on; there must be one.
     QRectF pointsArea(qsizetype first = 0) const;
+    /// What changed since the stroke ended before this point.
+    QRect paintedRectFrom(qsizetype firstNewPoint) const;
     void drawPath(QPainter *painter) const;
     /// The path without what the painter's clip hides.
     QPainterPath visiblePath(const QPainter &painter) const;
