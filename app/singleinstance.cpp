@@ -3,6 +3,7 @@
 #include "settings/processservices.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLocalSocket>
 #include <QLockFile>
@@ -84,11 +85,21 @@ SingleInstance::~SingleInstance()
 {
     const NameLock lock;
     if (m_server && nameIsTakenOver()) {
-        // A server removes the file of its name when it closes, and that is the successor's by
-        // now. The process is about to end, which closes the old socket just as well.
-        [[maybe_unused]] static const QLocalServer *const abandoned = m_server.release();
+        closeBesidesSuccessor();
     }
+}
+
+void SingleInstance::closeBesidesSuccessor()
+{
+    // A server removes the file of its name when it closes, and that is the successor's by now.
+    // Whoever searches an instance in between waits for the lock.
+    const QString socket = m_server->fullServerName();
+    const QString aside = socket + QLatin1String(".aside");
+    const bool moved = QFile::rename(socket, aside);
     m_server.reset();
+    if (moved) {
+        QFile::rename(aside, socket);
+    }
 }
 
 SingleInstance::Claim SingleInstance::claim(const QStringList &arguments)

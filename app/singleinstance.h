@@ -37,6 +37,7 @@ signals:
 private:
     [[nodiscard]] bool listen(const QString &name);
     [[nodiscard]] bool nameIsTakenOver() const;
+    void closeBesidesSuccessor();
     void receiveAnotherStart();
 
     std::unique_ptr<QLocalServer> m_server;

@@ -33,8 +33,8 @@ void TrayIcon::adopt(QObject *object)
     window->setIcon(QIcon(QLatin1String(Identity::kIcon)));
     connect(m_toggleAction, &QAction::triggered, window, [this] { toggleWindow(); });
     // The window also hides and shows itself; the text tells what the action would do now.
-    connect(window, &QQuickWindow::visibleChanged, this, &TrayIcon::retranslate);
-    retranslate();
+    connect(window, &QQuickWindow::visibleChanged, this, &TrayIcon::noteVisibility);
+    noteVisibility(window->isVisible());
 }
 
 void TrayIcon::showWindow()
@@ -48,10 +48,15 @@ void TrayIcon::showWindow()
 
 void TrayIcon::retranslate()
 {
-    const bool hidden = m_window && !m_window->isVisible();
-    m_toggleAction->setText(hidden ? QCoreApplication::translate("main", "显示")
-                                   : QCoreApplication::translate("main", "隐藏"));
+    m_toggleAction->setText(m_windowIsHidden ? QCoreApplication::translate("main", "显示")
+                                             : QCoreApplication::translate("main", "隐藏"));
     m_exitAction->setText(QCoreApplication::translate("main", "退出"));
+}
+
+void TrayIcon::noteVisibility(bool visible)
+{
+    m_windowIsHidden = !visible;
+    retranslate();
 }
 
 void TrayIcon::toggleWindow()

@@ -30,10 +30,12 @@ public:
 
 private:
     void toggleWindow();
+    void noteVisibility(bool visible);
 
     QMenu m_menu;
     QSystemTrayIcon m_icon;
     QAction *m_toggleAction; // owned by the menu, as the next
     QAction *m_exitAction;
     QPointer<QQuickWindow> m_window;
+    bool m_windowIsHidden = false;
 };

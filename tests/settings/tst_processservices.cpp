@@ -29,14 +29,11 @@ void write(const QString &path, const QByteArray &content, QFile::Permissions pe
 /// True when `action` asked the running application to quit.
 template <typename Action> bool quitsThroughEventLoop(Action action)
 {
-    bool timedOut = false;
+    QTimer stays;
+    QObject::connect(&stays, &QTimer::timeout, qApp, [] { QCoreApplication::exit(1); });
+    stays.start(500);
     QTimer::singleShot(0, qApp, action);
-    QTimer::singleShot(500, qApp, [&timedOut] {
-        timedOut = true;
-        QCoreApplication::exit();
-    });
-    QCoreApplication::exec();
-    return !timedOut;
+    return QCoreApplication::exec() == 0;
 }
 
 } // namespace
