@@ -30,9 +30,9 @@ void write(const QString &path, const QByteArray &content, QFile::Permissions pe
 template <typename Action> bool quitsThroughEventLoop(Action action)
 {
     QTimer stays;
-    QObject::connect(&stays, &QTimer::timeout, qApp, [] { QCoreApplication::exit(1); });
+    QObject::connect(&stays, &QTimer::timeout, &stays, [] { QCoreApplication::exit(1); });
     stays.start(500);
-    QTimer::singleShot(0, qApp, action);
+    QTimer::singleShot(0, &stays, action);
     return QCoreApplication::exec() == 0;
 }
 

@@ -1,0 +1,77 @@
+#include "app/interfacelanguage.h"
+
+#include "app/trayicon.h"
+#include "settings/translation.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QTest>
+
+/// A language chosen while the program runs reaches what is already on the screen.
+class TestInterfaceLanguage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void documentsAndTrayFollowEveryChange();
+
+private:
+    static QString exitText();
+};
+
+void TestInterfaceLanguage::initTestCase()
+{
+    QDir().mkpath(translationsDirectory());
+    for (const char *name : { "/app_en_US.qm", "/app_ja_JP.qm" }) {
+        const QString path = translationsDirectory() + QLatin1String(name);
+        QFile::remove(path);
+        QVERIFY(QFile::copy(QStringLiteral(":/translations") + QLatin1String(name), path));
+    }
+}
+
+QString TestInterfaceLanguage::exitText()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *menu = qobject_cast<QMenu *>(widget)) {
+            return menu->actions().last()->text();
+        }
+    }
+    return {};
+}
+
+void TestInterfaceLanguage::documentsAndTrayFollowEveryChange()
+{
+    InterfaceLanguage language;
+    TrayIcon tray;
+    QQmlEngine engine;
+    connect(&language, &InterfaceLanguage::textsChanged, &engine, &QQmlEngine::retranslate);
+    connect(&language, &InterfaceLanguage::textsChanged, &tray, &TrayIcon::retranslate);
+    QQmlComponent component(&engine);
+    component.setData(R"(
+        import QtQml
+        QtObject { property string text: qsTranslate("main", "退出") })",
+        QUrl());
+    const std::unique_ptr<QObject> document(component.create());
+    QVERIFY2(document, qPrintable(component.errorString()));
+
+    const QList<QPair<QString, QString>> steps{
+        { QStringLiteral("en_US"), QStringLiteral("Exit") },
+        { QStringLiteral("ja_JP"), QStringLiteral("終了") },
+        // No catalogue: the source language.
+        { QStringLiteral("nosuch"), QStringLiteral("退出") },
+        { QStringLiteral("en_US"), QStringLiteral("Exit") },
+    };
+    for (const auto &[code, text] : steps) {
+        loadTranslation(qApp, code);
+        QCOMPARE(document->property("text").toString(), text);
+        QCOMPARE(exitText(), text);
+    }
+}
+
+QTEST_MAIN(TestInterfaceLanguage)
+#include "tst_interfacelanguage.moc"
