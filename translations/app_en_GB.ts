@@ -599,7 +599,7 @@
     <name>select</name>
     <message>
         <source>选项</source>
-        <translation type="unfinished"></translation>
+        <translation>Choices</translation>
     </message>
 </context>
 </TS>
