@@ -11,7 +11,7 @@ from .waiting import WaitTimeout, wait_for
 from .windows import Rect, Window
 
 __all__ = [
-    "EXIT", "HIDE", "LEFT", "MIDDLE", "RIGHT", "Desktop", "DesktopTestCase", "Palette", "Program", "Rect", "TrayIcon", "WaitTimeout",
-    "Window", "artifacts_folder", "changed_box", "install", "main", "near", "program_path",
-    "wait_for",
+    "EXIT", "HIDE", "LEFT", "MIDDLE", "RIGHT", "Desktop", "DesktopTestCase", "Palette",
+    "Program", "Rect", "TrayIcon", "WaitTimeout", "Window", "artifacts_folder", "changed_box",
+    "install", "main", "near", "program_path", "wait_for",
 ]

@@ -57,8 +57,9 @@ class Program:
             variables["QT_SCALE_FACTOR"] = str(scale)
         variables.update(self._sanitizer_options())
         with open(self._log_path, "wb") as log:
-            self._popen = desktop.guard.start([executable, *self.arguments], cwd=cwd or desktop.home,
-                                              env=desktop.env(**variables), stdout=log, stderr=log)
+            self._popen = desktop.guard.start(
+                [executable, *self.arguments], cwd=cwd or desktop.home,
+                env=desktop.env(**variables), stdout=log, stderr=log)
 
     def _sanitizer_options(self):
         common = f"log_path={self._reports}:exitcode={SANITIZER_EXIT_CODE}"

@@ -11,6 +11,7 @@ from .monitors import set_monitors
 from .plainwindow import PlainWindow
 from .processes import Guard, adopt_orphans, descendants, end
 from .program import Program
+from .pulse import Pulse
 from .screen import Screen, set_wallpaper
 from .server import Companions, start_session_bus, start_x_server
 from .waiting import wait_for
@@ -69,12 +70,15 @@ class Desktop:
         set_wallpaper(self.display, self._wallpaper)
         if self._monitors:
             self.set_monitors(self._monitors)
+        self._pulse = Pulse(self.name)
         for what in ("window_manager", "compositor", "tray"):
             if self._wanted[what]:
                 self.start_companion(what)
 
     def close(self):
         """Ends every process of the desktop and removes its folder."""
+        if hasattr(self, "_pulse"):
+            self._pulse.stop()
         for window in self._opened:
             window.close()
         if hasattr(self, "display"):
