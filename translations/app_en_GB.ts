@@ -595,4 +595,11 @@
         <translation>Main window</translation>
     </message>
 </context>
+<context>
+    <name>select</name>
+    <message>
+        <source>选项</source>
+        <translation>Options</translation>
+    </message>
+</context>
 </TS>

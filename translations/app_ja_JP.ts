@@ -595,4 +595,11 @@
         <translation>メインウィンドウ</translation>
     </message>
 </context>
+<context>
+    <name>select</name>
+    <message>
+        <source>选项</source>
+        <translation>オプション</translation>
+    </message>
+</context>
 </TS>

@@ -595,4 +595,11 @@
         <translation>기본 창</translation>
     </message>
 </context>
+<context>
+    <name>select</name>
+    <message>
+        <source>选项</source>
+        <translation>옵션</translation>
+    </message>
+</context>
 </TS>

@@ -595,4 +595,11 @@
         <translation>主窗口</translation>
     </message>
 </context>
+<context>
+    <name>select</name>
+    <message>
+        <source>选项</source>
+        <translation>选项</translation>
+    </message>
+</context>
 </TS>

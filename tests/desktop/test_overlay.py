@@ -222,5 +222,59 @@ class NoCompositorTest(OverlayTestCase):
         self.wait_for_pixel(300, 450, lambda colour: colour[0] > 120, "the stroke to stay")
 
 
+PINYIN = """[Groups/0]
+Name=Default
+Default Layout=us
+DefaultIM=pinyin
+
+[Groups/0/Items/0]
+Name=keyboard-us
+
+[Groups/0/Items/1]
+Name=pinyin
+
+[GroupOrder]
+0=Default
+"""
+
+
+class InputMethodTest(OverlayTestCase):
+
+    def start_input_method(self):
+        folder = os.path.join(self.desktop.home, ".config", "fcitx5")
+        os.makedirs(folder)
+        for name, text in (("profile", PINYIN), ("config", "[Behavior]\nActiveByDefault=True\n")):
+            with open(os.path.join(folder, name), "w", encoding="utf-8") as file:
+                file.write(text)
+        with open(os.path.join(self.desktop.folder, "desktop.log"), "ab") as log:
+            self.desktop.guard.start(
+                ["fcitx5", "--disable=wayland,cloudpinyin,notificationitem"],
+                env=self.desktop.env(), stdout=log, stderr=log)
+        self.wait_for(lambda: "Loaded addon pinyin" in self.desktop.log(), "the input method")
+
+    def candidates(self):
+        """The input method's own window with the choices, if it is open."""
+        return [window for window in self.desktop.windows.all()
+                if "fcitx" in (window.title + "".join(window.wm_class)).lower()
+                and window.geometry.width > 80]
+
+    def test_chinese_is_composed_in_the_editor_with_the_choices_at_the_caret(self):
+        self.start_input_method()
+        self.start_drawing(env={"QT_IM_MODULE": "fcitx"})
+        self.choose("Ctrl+T")
+        self.desktop.pointer.click(300, 300)
+        self.wait_for_red(300, 350, "the first editor's red frame")
+        self.desktop.keyboard.type("nihao")
+        choices = self.wait_for(self.candidates, "the choices")[-1].geometry
+        self.assertLess(abs(choices.x - 305), 60)
+        self.assertTrue(300 < choices.y < 360, choices)
+        self.desktop.keyboard.tap("space")
+        self.wait_for(lambda: not self.candidates(), "the choice to be made")
+        self.desktop.keyboard.type("zhong")
+        self.wait_for(self.candidates, "the next choices")
+        self.desktop.pointer.click(800, 600)
+        self.program.wait_for_log('接收到的原始文本: "你好zhong"')
+
+
 if __name__ == "__main__":
     desktop.main()
