@@ -71,11 +71,14 @@ function(dravelin_add_qml_module target)
     set(module_dir "${DRAVELIN_QML_MODULES_DIR}/${module_path}")
     set(resource_dir "/qt/qml/${module_path}")
 
+    set(definition "module ${ARG_URI}\ntypeinfo ${ARG_TYPEINFO}\nprefer :${resource_dir}/\n\n")
+    set(qmldir "${CMAKE_CURRENT_BINARY_DIR}/${target}/qmldir")
+    file(GENERATE OUTPUT "${qmldir}" CONTENT "${definition}" NEWLINE_STYLE CRLF)
+    # Tools also want to know where the base classes come from.
     file(GENERATE OUTPUT "${module_dir}/qmldir"
-        CONTENT "module ${ARG_URI}\ntypeinfo ${ARG_TYPEINFO}\nprefer :${resource_dir}/\n\n"
-        NEWLINE_STYLE CRLF)
+        CONTENT "module ${ARG_URI}\ntypeinfo ${ARG_TYPEINFO}\ndepends QtQuick\nprefer :${resource_dir}/\n")
     file(CONFIGURE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/${target}.qrc" CONTENT
-        "<RCC><qresource prefix=\"${resource_dir}\"><file alias=\"qmldir\">${module_dir}/qmldir</file></qresource></RCC>\n"
+        "<RCC><qresource prefix=\"${resource_dir}\"><file alias=\"qmldir\">${qmldir}</file></qresource></RCC>\n"
         @ONLY)
     qt_add_resources(resources "${CMAKE_CURRENT_BINARY_DIR}/${target}.qrc")
 

@@ -37,7 +37,7 @@ QCursor PointerCursor::pictureCursor() const
     const QPixmap pixmap = QIcon(path).pixmap(QSize(m_size, m_size), ratio);
     if (pixmap.isNull())
         return QCursor(Qt::CrossCursor);
-    const QPoint hotSpot = QPoint(m_size, m_size) / 2 - m_offset;
+    const QPointF hotSpot = QPointF(m_size, m_size) / 2 - m_offset;
     const qreal scale = cursorHotSpotScale(ratio);
     return QCursor(pixmap, qRound(hotSpot.x() * scale), qRound(hotSpot.y() * scale));
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointF>
 #include <QPointer>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -23,7 +24,7 @@ class PointerCursor : public QObject
     /// Side of the picture in logical pixels.
     Q_PROPERTY(int size MEMBER m_size WRITE setSize NOTIFY changed FINAL)
     /// Where the picture's centre lies, seen from the pointer, in logical pixels.
-    Q_PROPERTY(QPoint offset MEMBER m_offset WRITE setOffset NOTIFY changed FINAL)
+    Q_PROPERTY(QPointF offset MEMBER m_offset WRITE setOffset NOTIFY changed FINAL)
 
 public:
     using QObject::QObject;
@@ -32,7 +33,7 @@ public:
     void setShape(Qt::CursorShape shape) { set(m_shape, shape); }
     void setPicture(const QUrl &picture) { set(m_picture, picture); }
     void setSize(int size) { set(m_size, size); }
-    void setOffset(const QPoint &offset) { set(m_offset, offset); }
+    void setOffset(const QPointF &offset) { set(m_offset, offset); }
 
 signals:
     void changed();
@@ -53,5 +54,5 @@ private:
     Qt::CursorShape m_shape = Qt::ArrowCursor;
     QUrl m_picture;
     int m_size = 32;
-    QPoint m_offset;
+    QPointF m_offset;
 };

@@ -24,7 +24,7 @@ Grid {
             id: swatch
 
             required property string modelData
-            readonly property bool chosen: Qt.colorEqual(swatch.modelData, root.current)
+            readonly property bool chosen: Qt.colorEqual(swatch.modelData, root.current) // qmllint disable unqualified
 
             width: 22
             height: 22
@@ -49,7 +49,7 @@ Grid {
                 anchors.fill: parent
                 hoverEnabled: true
                 cursorShape: Qt.PointingHandCursor
-                onClicked: root.picked(swatch.modelData)
+                onClicked: root.picked(swatch.modelData) // qmllint disable unqualified
             }
         }
     }

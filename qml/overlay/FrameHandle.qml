@@ -8,6 +8,7 @@ Rectangle {
     /// -1 at the left or top edge, 1 at the right or bottom one, 0 in the middle between them.
     required property int horizontal
     required property int vertical
+    readonly property int handleSize: 10
     property alias cursorShape: area.cursorShape
 
     /// Positions are in the handle's own coordinates, and the handle moves with the frame.
@@ -17,6 +18,8 @@ Rectangle {
 
     x: (root.horizontal + 1) / 2 * root.parent.width - root.width / 2
     y: (root.vertical + 1) / 2 * root.parent.height - root.height / 2
+    width: root.handleSize
+    height: root.handleSize
     color: "white"
     border.color: "blue"
     border.width: 1

@@ -69,7 +69,7 @@ Window {
     }
 
     function showPicture(picture: url): void {
-        root.backgroundImage = "file:///" + picture.toString().replace(/^file:\/+/, "");
+        root.backgroundImage = "file:///" + String(picture).replace(/^file:\/+/, "");
         backgroundPicture.shown = true;
     }
 

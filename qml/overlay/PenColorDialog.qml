@@ -55,7 +55,7 @@ T.Popup {
     }
 
     width: 260
-    height: contentColumn.implicitHeight + topPadding + bottomPadding
+    height: implicitContentHeight + topPadding + bottomPadding
     padding: 16
     focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
@@ -65,9 +65,7 @@ T.Popup {
         color: Theme.paper
     }
 
-    contentItem: Column {
-        id: contentColumn
-
+    contentItem: Column { // qmllint disable deferred-property-id
         spacing: 12
 
         FluText {

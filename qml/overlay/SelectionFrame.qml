@@ -10,7 +10,6 @@ Item {
     required property MyPainter painter
     /// The mark's bounds, in the canvas's coordinates.
     property rect elementRect
-    readonly property int handleSize: 10
     /// Which handle is held down; "move" for the inner area.
     property string activeHandle: ""
     /// Where the handle was pressed and last seen, in its own coordinates: it moves with the frame,
@@ -156,11 +155,9 @@ Item {
             horizontal: modelData.horizontal
             vertical: modelData.vertical
             cursorShape: modelData.cursor
-            width: root.handleSize
-            height: root.handleSize
             onGrabbed: pos => root.grab(name, pos)
             onDragged: pos => root.drag(pos, horizontal, vertical)
-            onReleased: root.release()
+            onReleased: () => root.release()
         }
     }
 }

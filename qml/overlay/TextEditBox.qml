@@ -25,7 +25,7 @@ Rectangle {
         const composing = edit.preeditText;
         const before = edit.text;
         const position = edit.cursorPosition;
-        Qt.inputMethod.commit();
+        InputMethod.commit();
         const kept = edit.text !== before || composing === "";
         return kept ? edit.text : before.slice(0, position) + composing + before.slice(position);
     }

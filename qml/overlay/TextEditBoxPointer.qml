@@ -29,7 +29,7 @@ MouseArea {
         root.pressPos = Qt.point(mouse.x, mouse.y);
         root.mayDrag = root.dragAnywhere || root.onBorderStrip(mouse);
         root.dragging = false;
-        Qt.inputMethod.commit();
+        InputMethod.commit();
         root.edit.forceActiveFocus();
         root.edit.cursorPosition = root.caretAt(mouse);
     }

@@ -39,7 +39,7 @@ QtObject {
         const box = component.createObject(root.painter, {
             x: pos.x, y: pos.y, z: 200,
             painter: root.painter, showText: root.showText, parentWindow: root.parentWindow
-        });
+        }) as TextEditBox;
         if (box === null) {
             console.log(OverlayLog.editorFailed, component.errorString());
             root.failed();
