@@ -103,7 +103,8 @@ Rectangle {
         visible: root.activeFocus
         color: "transparent"
         radius: 4
-        border { color: Theme.accent; width: 2 }
+        // The two buttons with a ground of their own have the accent's colour.
+        border { color: root.isBackTransparent ? Theme.ink : Theme.accent; width: 2 }
     }
 
     MouseArea {

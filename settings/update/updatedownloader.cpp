@@ -11,7 +11,7 @@ namespace
 {
 
 // More than any update weighs; an endless answer must not fill the disk.
-constexpr qint64 kMaxFileBytes = qint64 { 2 } * 1024 * 1024 * 1024;
+constexpr qint64 kMaxFileBytes = qint64{ 2 } * 1024 * 1024 * 1024;
 
 QString inApplicationFolder(const QString &name)
 {
@@ -31,8 +31,7 @@ bool leavesThroughLink(const QString &name)
 
 } // namespace
 
-UpdateDownloader::UpdateDownloader(QObject *parent)
-    : QObject(parent)
+UpdateDownloader::UpdateDownloader(QObject *parent) : QObject(parent)
 {
 }
 
@@ -140,8 +139,7 @@ void UpdateDownloader::finishFile()
         return;
     }
     dropReply();
-    setProgress(
-        static_cast<double>(m_fetched.size()) / static_cast<double>(m_offer.files.size()));
+    setProgress(static_cast<double>(m_fetched.size()) / static_cast<double>(m_offer.files.size()));
     fetchNext();
 }
 

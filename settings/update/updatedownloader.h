@@ -72,7 +72,7 @@ private:
     [[nodiscard]] const UpdateFile &currentFile() const;
 
     QNetworkAccessManager m_network;
-    QCryptographicHash m_hash { QCryptographicHash::Sha256 };
+    QCryptographicHash m_hash{ QCryptographicHash::Sha256 };
     UpdateOffer m_offer;
     /// One for each file that is fetched or being fetched; they vanish with this list.
     std::vector<std::unique_ptr<QTemporaryFile>> m_fetched;

@@ -83,10 +83,9 @@ UpdateOffer::Parsed UpdateOffer::parse(const QVariantMap &reply)
         parsed.offer.files.append(file);
     }
 
-    parsed.offer.updater
-        = reply.value(QStringLiteral("updater"), QString::fromLatin1(kDefaultUpdater)).toString();
+    parsed.offer.updater =
+        reply.value(QStringLiteral("updater"), QString::fromLatin1(kDefaultUpdater)).toString();
     if (!staysInFolder(parsed.offer.updater))
-        return refuse(
-            tr("文件名“%1”不允许使用：它会离开程序文件夹。").arg(parsed.offer.updater));
+        return refuse(tr("文件名“%1”不允许使用：它会离开程序文件夹。").arg(parsed.offer.updater));
     return parsed;
 }

@@ -54,7 +54,8 @@ class Palette:
             return self._at(WIDTH * SCALE / 2, HANDLE_HEIGHT * SCALE / 2)
         number = TOOLS.index(tool)
         top = HANDLE_HEIGHT * SCALE + _px(HANDLE_GAP)
-        pitch = BUTTON_HEIGHT * SCALE + _px(BUTTON_GAP)
+        # A line without height of its own stands between two buttons, with a gap on either side.
+        pitch = BUTTON_HEIGHT * SCALE + 2 * _px(BUTTON_GAP)
         return self._at(WIDTH * SCALE / 2, top + number * pitch + BUTTON_HEIGHT * SCALE / 2)
 
     def click(self, tool, button=1):

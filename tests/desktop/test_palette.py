@@ -1,0 +1,123 @@
+"""The palette itself: where it stands, how it opens its flyouts, whose keyboard it leaves alone."""
+
+import desktop
+
+PAPER = (250, 250, 210)
+FLYOUT_TOPS = {"pen": 85, "shape": 120, "history": 280, "board": 390, "thickness": 550,
+               "fade": 580, "breathing": 600, "menu": 635}
+SCALE = 0.65
+
+
+def qt_round(value):
+    return int(value + 0.5)
+
+
+class PaletteTest(desktop.DesktopTestCase):
+
+    def setUp(self):
+        super().setUp()
+        self.document = self.desktop.open_window("Document", (60, 90, 400, 300), PAPER)
+        self.desktop.pointer.click(*self.document.window.centre)
+        self.wait_for(lambda: self.desktop.windows.active == self.document.window,
+                      "the document to have the keyboard")
+        self.launch()
+
+    def launch(self):
+        self.program = self.start()
+        self.palette = desktop.Palette(self.desktop, self.program)
+        self.window = self.palette.window
+
+    def expect_document_keeps_keyboard(self):
+        count = len(self.document.keys)
+        self.desktop.keyboard.tap("x")
+        self.wait_for(lambda: len(self.document.keys) == count + 1,
+                      "the typed letter to reach the document")
+        self.assertEqual(self.desktop.windows.active, self.document.window)
+
+    def expect_no_complaint(self):
+        for line in self.program.log().splitlines():
+            self.assertNotRegex(line, r"^qrc:.*(Error|Warning|Cannot|Unable|is not)", line)
+
+    def test_stands_at_the_right_edge_above_everything_and_collapses_in_place(self):
+        rect = self.window.geometry
+        self.assertEqual((rect.width, rect.height), (32, 520))
+        self.assertEqual((rect.x, rect.y), (1280 - 32, (800 - 520) // 2))
+        self.assertTrue(self.window.frameless and self.window.on_top)
+        self.palette.click("collapse")
+        self.wait_for(lambda: self.window.geometry.height == int(99 * SCALE), "the palette to collapse")
+        self.palette.click("collapse")
+        self.wait_for(lambda: self.window.geometry == rect, "the palette to unfold in its place")
+
+    def test_leaves_the_keyboard_to_what_the_user_types_in(self):
+        self.expect_document_keeps_keyboard()  # also after it has just appeared
+        self.palette.click("collapse")
+        self.expect_document_keeps_keyboard()
+        self.palette.click("collapse")
+        self.palette.choose("thickness", "c")
+        self.expect_document_keeps_keyboard()
+        self.palette.open_flyout("menu")
+        self.expect_document_keeps_keyboard()
+
+    def test_follows_the_hand_and_comes_back_to_the_place_where_it_was_left(self):
+        self.palette.open_flyout("menu")
+        start = self.palette.point("handle")
+        # Back and forth: whatever moves the window late or twice adds up.
+        self.desktop.pointer.drag([start, (700, 300), (900, 60), (500, 200)], samples=40)
+        left = (1248 + 500 - start[0], 140 + 200 - start[1])
+        self.wait_for(lambda: self.window.geometry[:2] == left, "the palette to follow the hand")
+        self.wait_for(lambda: not self.program.windows(title="选项"), "dragging to close the flyout")
+        self.program.stop()
+        self.launch()
+        self.wait_for(lambda: self.window.geometry[:2] == left, "the palette in its place")
+
+    def expect_flyouts(self, palette_x, offset):
+        for tool in ("history", "thickness", "fade", "breathing", "menu"):
+            rect = self.palette.open_flyout(tool).geometry
+            rows = len(desktop.palette.FLYOUTS[tool])
+            self.assertEqual((rect.width, rect.height),
+                             (33, qt_round(rows * 38 * SCALE + 20 * SCALE)), tool)
+            self.assertAlmostEqual(rect.x, palette_x + offset, delta=1, msg=tool)
+            self.assertAlmostEqual(rect.y, 140 + FLYOUT_TOPS[tool] * SCALE, delta=1, msg=tool)
+        self.desktop.pointer.move(*self.palette.point("eraser"))
+        self.wait_for(lambda: not self.flyouts(), "another button to close the flyout")
+
+    def flyouts(self):
+        return [window for window in self.program.windows(frameless=True)
+                if "_NET_WM_WINDOW_TYPE_UTILITY" in window.types]
+
+    def test_flyouts_open_towards_the_middle_of_the_desktop(self):
+        self.expect_flyouts(1248, -55 * SCALE)
+        start = self.palette.point("handle")
+        self.desktop.pointer.drag([start, (400, start[1])])
+        self.expect_flyouts(self.window.geometry.x, qt_round(50 * SCALE))
+        # Tools that only drawing needs stay closed until then.
+        for tool in ("pen", "shape", "board"):
+            self.palette.hover(tool)
+        self.palette.open_flyout("menu")
+        self.assertEqual(len(self.flyouts()), 1)
+        self.expect_no_complaint()
+
+    def test_can_be_used_with_the_keyboard_alone(self):
+        self.desktop.pointer.move(300, 200)
+        self.desktop.keyboard.type("")
+        self.activate(self.window)
+        for _ in range(2):  # the handle, then the button that collapses
+            self.desktop.keyboard.tap("Tab")
+        self.desktop.keyboard.tap("space")
+        self.wait_for(lambda: self.window.geometry.height < 100, "the space bar to press the button")
+        self.desktop.keyboard.tap("Return")
+        self.wait_for(lambda: self.window.geometry.height == 520, "Return to press the button")
+        for _ in range(14):
+            self.desktop.keyboard.tap("Down")
+        self.desktop.keyboard.tap("Left")
+        self.wait_for(lambda: self.flyouts(), "the menu to open")
+        self.desktop.keyboard.tap("Escape")
+        self.wait_for(lambda: not self.flyouts(), "Escape to close the menu")
+        self.desktop.keyboard.tap("Left")
+        self.wait_for(lambda: self.flyouts(), "the menu to open again")
+        self.desktop.keyboard.tap("Up", "Up", "Return")  # from the first row around to "about"? no: settings
+        self.expect_no_complaint()
+
+    def activate(self, window):
+        self.desktop.windows.activate(window)
+        self.wait_for(lambda: self.desktop.windows.active == window, "the palette to be active")

@@ -1,0 +1,44 @@
+#include "tests/update/localserver.h"
+
+#include <QTcpSocket>
+
+LocalServer::LocalServer()
+{
+    listen(QHostAddress::LocalHost);
+    connect(this, &QTcpServer::newConnection, this, [this] {
+        QTcpSocket *socket = nextPendingConnection();
+        connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
+            if (socket->peek(socket->bytesAvailable()).contains("\r\n\r\n"))
+                answer(socket);
+        });
+    });
+}
+
+void LocalServer::serve(const QString &path, const QByteArray &body, Behaviour behaviour)
+{
+    m_answers[path.toUtf8()] = { "HTTP/1.1 200 OK\r\n", body, behaviour };
+}
+
+void LocalServer::redirect(const QString &path, const QUrl &target)
+{
+    m_answers[path.toUtf8()] = { "HTTP/1.1 302 Found\r\nLocation: " + target.toEncoded() + "\r\n",
+        {}, Whole };
+}
+
+QUrl LocalServer::url(const QString &path) const
+{
+    return QUrl(QStringLiteral("http://127.0.0.1:%1%2").arg(serverPort()).arg(path));
+}
+
+void LocalServer::answer(QTcpSocket *socket)
+{
+    ++m_requests;
+    const QByteArray path = socket->readAll().split(' ').value(1);
+    const Answer answer = m_answers.value(path, { "HTTP/1.1 404 Not Found\r\n", "none", Whole });
+    socket->write(answer.head + "Content-Length: " + QByteArray::number(answer.body.size())
+        + "\r\nConnection: close\r\n\r\n");
+    socket->write(
+        answer.behaviour == Whole ? answer.body : answer.body.left(answer.body.size() / 2));
+    if (answer.behaviour != Stalled)
+        socket->disconnectFromHost();
+}
