@@ -1,0 +1,251 @@
+#include "canvas/logtexts.h"
+#include "canvas/shiftsnap.h"
+#include "elements/arrowelement.h"
+#include "elements/circleelement.h"
+#include "elements/freehandelement.h"
+#include "elements/lineelement.h"
+#include "elements/rectangleelement.h"
+#include "tests/canvas/common/logrecorder.h"
+#include "tests/canvas/common/signalrecorder.h"
+#include "tests/canvas/common/testcanvas.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+class TestPenInput : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void snapping_data();
+    void snapping();
+    void shapes_data();
+    void shapes();
+    void strokesCountEveryMoveTwice();
+    void marksTakeThePenAsItIs();
+    void announcesOnRelease();
+    void withoutMovesNothingIsMade();
+    void movesAfterTheReleaseMakeNothing();
+    void changeOfToolInMidGesture();
+    void gestureSurvivesTheLossOfItsMark();
+    void noSizeNoMark();
+};
+
+void TestPenInput::snapping_data()
+{
+    QTest::addColumn<QPoint>("start");
+    QTest::addColumn<QPoint>("pos");
+    QTest::addColumn<QPoint>("eighthTurn");
+    QTest::addColumn<QPoint>("square");
+    const QPoint origin;
+    QTest::newRow("flat") << origin << QPoint(100, 40) << QPoint(108, 0) << QPoint(100, 100);
+    QTest::newRow("diagonal") << origin << QPoint(100, 70) << QPoint(86, 86) << QPoint(100, 100);
+    QTest::newRow("up") << origin << QPoint(30, -50) << QPoint(41, -41) << QPoint(50, -50);
+    QTest::newRow("left") << QPoint(10, 10) << QPoint(-20, 11) << QPoint(-20, 10)
+                          << QPoint(-20, 40);
+    QTest::newRow("straight down")
+        << QPoint(5, 5) << QPoint(5, 25) << QPoint(5, 25) << QPoint(25, 25);
+    QTest::newRow("nowhere") << QPoint(7, 8) << QPoint(7, 8) << QPoint(7, 8) << QPoint(7, 8);
+    constexpr int kMost = std::numeric_limits<int>::max();
+    QTest::newRow("out of range") << QPoint(-kMost, 0) << QPoint(kMost, kMost / 2)
+                                  << QPoint(kMost, 0) << QPoint(kMost, kMost);
+}
+
+void TestPenInput::snapping()
+{
+    QFETCH(QPoint, start);
+    QFETCH(QPoint, pos);
+    QTEST(ShiftSnap::toEighthTurn(start, pos), "eighthTurn");
+    QTEST(ShiftSnap::toSquare(start, pos), "square");
+}
+
+void TestPenInput::shapes_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<bool>("shift");
+    QTest::addColumn<QPoint>("end");
+    QTest::addColumn<int>("radius");
+    QTest::newRow("line") << int(MyPainter::LineMode) << false << QPoint(120, 60) << -1;
+    QTest::newRow("line, shift") << int(MyPainter::LineMode) << true << QPoint(128, 20) << -1;
+    QTest::newRow("rectangle") << int(MyPainter::RectangleMode) << false << QPoint(120, 60) << -1;
+    QTest::newRow("rectangle, shift")
+        << int(MyPainter::RectangleMode) << true << QPoint(120, 120) << -1;
+    QTest::newRow("arrow") << int(MyPainter::ArrowMode) << false << QPoint(120, 60) << -1;
+    QTest::newRow("arrow, shift") << int(MyPainter::ArrowMode) << true << QPoint(120, 60) << -1;
+    QTest::newRow("circle") << int(MyPainter::CircleMode) << true << QPoint() << 107;
+}
+
+void TestPenInput::shapes()
+{
+    QFETCH(int, mode);
+    QFETCH(bool, shift);
+    QFETCH(QPoint, end);
+    QFETCH(int, radius);
+    // The anchor is the first move, not the press, and the mark follows each of these.
+    for (const int moves : { 1, 2 }) {
+        TestCanvas canvas;
+        canvas.setDrawMode(mode);
+        canvas.beginPaint(QPoint(1, 2));
+        canvas.movePaint(QPoint(20, 20), shift);
+        QCOMPARE(canvas.elements().size(), 1);
+        if (moves == 2)
+            canvas.movePaint(QPoint(120, 60), shift);
+        else
+            canvas.endPaint(QPoint(120, 60), shift);
+        QCOMPARE(canvas.elements().last()->type, mode);
+        if (const auto *circle = canvas.top<CircleElement>()) {
+            QCOMPARE(circle->center, QPoint(20, 20));
+            QCOMPARE(circle->radius, radius);
+        } else {
+            QCOMPARE(canvas.top<TwoPointElement>()->start, QPoint(20, 20));
+            QCOMPARE(canvas.top<TwoPointElement>()->end, end);
+        }
+        QCOMPARE(canvas.undoKinds(), "A");
+    }
+}
+
+void TestPenInput::strokesCountEveryMoveTwice()
+{
+    const QPoint a(10, 10);
+    const QPoint b(20, 30);
+    const QPoint c(40, 35);
+    TestCanvas canvas;
+    canvas.beginPaint(a);
+    canvas.movePaint(b, false);
+    const auto *stroke = canvas.top<FreehandElement>();
+    QCOMPARE(stroke->points, QList<QPoint>({ a, b, b }));
+    canvas.movePaint(c, true);
+    QCOMPARE(stroke->points, QList<QPoint>({ a, b, b, c, c }));
+    canvas.endPaint(c, false);
+    QCOMPARE(stroke->points, QList<QPoint>({ a, b, b, c, c }));
+    canvas.drag(MyPainter::FreehandMode, { a });
+    canvas.beginPaint(a);
+    canvas.movePaint(a, false);
+    canvas.endPaint(c, false);
+    QCOMPARE(canvas.top<FreehandElement>()->points, QList<QPoint>({ a, a, a, c }));
+    // A mark can be hit where it shows, even before a frame has shown it.
+    TestCanvas unseen;
+    unseen.drag(MyPainter::FreehandMode, { QPoint(10, 10), QPoint(190, 10) });
+    QVERIFY(unseen.deleteElement(QPoint(80, 14)));
+}
+
+void TestPenInput::marksTakeThePenAsItIs()
+{
+    TestCanvas canvas;
+    canvas.setPenColor(Qt::blue);
+    canvas.setPenSize(9);
+    canvas.setPenOpacity(0.4);
+    const DrawingElement *line = canvas.line(QPoint(5, 5), QPoint(50, 50));
+    canvas.setPenColor(Qt::green);
+    canvas.setPenSize(1);
+    canvas.setPenOpacity(1.0);
+    QCOMPARE(line->color, QColor(Qt::blue));
+    QCOMPARE(line->penWidth, 9);
+    QCOMPARE(line->opacity, 0.4);
+    QVERIFY(!line->isEraser);
+}
+
+void TestPenInput::announcesOnRelease()
+{
+    TestCanvas canvas;
+    canvas.line(QPoint(1, 1), QPoint(2, 2));
+    canvas.undo();
+    SignalRecorder recorder(canvas, MyPainter::staticMetaObject);
+    const QSignalSpy added(&canvas, &MyPainter::elementAdded);
+    const LogRecorder log;
+    canvas.beginPaint(QPoint(10, 10));
+    canvas.movePaint(QPoint(20, 10), false);
+    QCOMPARE(recorder.take(), QStringList({ "canUndoChanged", "canRedoChanged" }));
+    QVERIFY(!canvas.canRedo());
+    canvas.movePaint(QPoint(30, 10), false);
+    QVERIFY(recorder.take().isEmpty());
+    canvas.endPaint(QPoint(30, 10), false);
+    QCOMPARE(recorder.take(), QStringList("elementAdded"));
+    const QString id = canvas.elements().last()->id;
+    QCOMPARE(added.at(0).at(0).toString(), id);
+    QCOMPARE(LogRecorder::take(),
+        QStringList(QStringLiteral("%1 \"%2\"").arg(CanvasLog::kElementAdded, id)));
+}
+
+void TestPenInput::withoutMovesNothingIsMade()
+{
+    for (int mode = MyPainter::FreehandMode; mode <= MyPainter::TextMode; ++mode) {
+        TestCanvas canvas;
+        canvas.setDrawMode(mode);
+        SignalRecorder recorder(canvas, MyPainter::staticMetaObject);
+        canvas.beginPaint(QPoint(10, 10));
+        canvas.endPaint(QPoint(12, 12), false);
+        QVERIFY(canvas.elements().isEmpty());
+        QVERIFY(recorder.take().isEmpty());
+    }
+    TestCanvas canvas;
+    canvas.drag(MyPainter::TextMode, { QPoint(1, 1), QPoint(50, 50) });
+    QVERIFY(canvas.elements().isEmpty());
+}
+
+void TestPenInput::movesAfterTheReleaseMakeNothing()
+{
+    TestCanvas canvas;
+    const auto *line = dynamic_cast<LineElement *>(canvas.line(QPoint(1, 1), QPoint(50, 50)));
+    canvas.movePaint(QPoint(90, 90), false);
+    canvas.endPaint(QPoint(90, 90), false);
+    QCOMPARE(canvas.elements().size(), 1);
+    QCOMPARE(line->end, QPoint(50, 50));
+}
+
+void TestPenInput::changeOfToolInMidGesture()
+{
+    TestCanvas canvas;
+    const QSignalSpy added(&canvas, &MyPainter::elementAdded);
+    canvas.setDrawMode(MyPainter::LineMode);
+    canvas.beginPaint(QPoint(10, 10));
+    canvas.movePaint(QPoint(10, 10), false);
+    canvas.movePaint(QPoint(40, 40), false);
+    const auto *line = canvas.top<LineElement>();
+    canvas.setDrawMode(MyPainter::RectangleMode);
+    canvas.movePaint(QPoint(60, 60), false);
+    canvas.endPaint(QPoint(80, 90), false);
+    QCOMPARE(line->end, QPoint(40, 40));
+    QCOMPARE(canvas.top<RectangleElement>()->start, QPoint(60, 60));
+    QCOMPARE(added.size(), 1);
+    QCOMPARE(canvas.undoKinds(), "AA");
+}
+
+void TestPenInput::gestureSurvivesTheLossOfItsMark()
+{
+    TestCanvas canvas;
+    canvas.setDrawMode(MyPainter::LineMode);
+    canvas.beginPaint(QPoint(10, 10));
+    canvas.movePaint(QPoint(10, 10), false);
+    canvas.undo();
+    canvas.movePaint(QPoint(90, 10), false); // still shapes the mark that can be done again
+    canvas.redo();
+    QCOMPARE(canvas.top<LineElement>()->end, QPoint(90, 10));
+    canvas.clear();
+    QSignalSpy added(&canvas, &MyPainter::elementAdded);
+    canvas.endPaint(QPoint(90, 10), false);
+    QVERIFY(added.isEmpty());
+
+    // A listener that empties the board the moment a mark is on it.
+    connect(&canvas, &MyPainter::canUndoChanged, &canvas, [&] {
+        if (!canvas.elements().isEmpty())
+            canvas.clear();
+    });
+    for (int mode = MyPainter::FreehandMode; mode <= MyPainter::NumberedCircleMode; ++mode)
+        canvas.drag(mode, { QPoint(10, 10), QPoint(50, 50), QPoint(90, 10) });
+    canvas.addText(QStringLiteral("text"), 5, 5, 20);
+    QVERIFY(canvas.elements().isEmpty());
+    QVERIFY(!canvas.canUndo());
+}
+
+void TestPenInput::noSizeNoMark()
+{
+    TestCanvas canvas(QSizeF(200, 0));
+    canvas.line(QPoint(10, 10), QPoint(50, 50));
+    QVERIFY(canvas.elements().isEmpty());
+    canvas.drag(MyPainter::NumberedCircleMode, { QPoint(10, 10) });
+    QCOMPARE(canvas.elements().size(), 1);
+}
+
+QTEST_MAIN(TestPenInput)
+#include "tst_peninput.moc"
