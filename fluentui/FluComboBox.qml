@@ -82,11 +82,10 @@ T.ComboBox {
     }
 
     delegate: FluComboItem {
-        required property var model
         required property int index
 
         width: ListView.view.width
-        text: root.textRole === "" ? (model.modelData ?? "") : (model.modelData?.[root.textRole] ?? model[root.textRole] ?? "")
+        text: root.textAt(index)
         chosen: root.currentIndex === index
         highlighted: root.highlightedIndex === index
     }
@@ -107,6 +106,8 @@ T.ComboBox {
             clip: true
             model: root.delegateModel
             currentIndex: root.highlightedIndex
+            // A list that moves, be it to its first place, would take the first press for itself.
+            interactive: contentHeight > height
             boundsBehavior: Flickable.StopAtBounds
             highlightMoveDuration: 0
         }

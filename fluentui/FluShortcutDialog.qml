@@ -27,9 +27,6 @@ T.Popup {
     focus: true
     closePolicy: T.Popup.NoAutoClose
 
-    Accessible.role: Accessible.Dialog
-    Accessible.name: title
-
     onOpened: capture.forceActiveFocus()
 
     background: FluFlyoutBackground {
@@ -44,7 +41,12 @@ T.Popup {
         id: capture
 
         focus: true
+        activeFocusOnTab: true
         onCaptured: names => root.keys = names
+
+        Accessible.role: Accessible.Dialog
+        Accessible.name: root.title
+        Accessible.description: root.message
 
         Column {
             id: layout

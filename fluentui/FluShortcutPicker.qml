@@ -39,10 +39,13 @@ FluIconButton {
     contentDescription: registered ? text + " " + current.join("+") : text + " " + current.join("+") + " " + conflict.text
 
     onSyncHotkeyChanged: followHotkey()
-    onClicked: dialog.active = true
+    onClicked: {
+        dialog.hadFocus = activeFocus;
+        dialog.active = true;
+    }
 
     contentItem: Item {
-        implicitWidth: label.width + label.gap + box.width + conflict.gap + conflict.width
+        implicitWidth: label.width + label.gap + box.width + conflict.space
         implicitHeight: 42
 
         FluText {
@@ -60,7 +63,7 @@ FluIconButton {
             id: box
 
             anchors.verticalCenter: parent.verticalCenter
-            x: parent.width - conflict.width - conflict.gap - width
+            x: parent.width - conflict.space - width
             width: keys.width + 20
             height: Math.min(42, parent.height)
             color: root.hovered ? FluTheme.fieldHoverColor : FluTheme.fieldColor
@@ -86,11 +89,10 @@ FluIconButton {
         FluText {
             id: conflict
 
-            readonly property int gap: visible ? 10 : 0
+            readonly property real space: visible ? width + 10 : 0
 
             anchors.verticalCenter: parent.verticalCenter
             x: parent.width - width
-            width: visible ? implicitWidth : 0
             visible: !root.registered
             text: qsTr("Conflict")
             textColor: root.errorColor
@@ -99,6 +101,8 @@ FluIconButton {
 
     Loader {
         id: dialog
+
+        property bool hadFocus: false
 
         active: false
         sourceComponent: FluShortcutDialog {
@@ -110,7 +114,11 @@ FluIconButton {
             current: root.current
             visible: true
             onSaved: keys => root.accept(keys)
-            onClosed: dialog.active = false
+            onClosed: {
+                dialog.active = false;
+                if (dialog.hadFocus)
+                    root.forceActiveFocus();
+            }
         }
     }
 }

@@ -48,13 +48,14 @@ T.TextField {
 
     Keys.onReturnPressed: event => root.sendText(event)
     Keys.onEnterPressed: event => root.sendText(event)
-    onPressed: event => {
-        if (event.button === Qt.RightButton && echoMode === TextInput.Normal)
-            menu.active = true;
-    }
+    // The selection stays to be copied while the menu has the focus.
+    persistentSelection: menu.item?.visible ?? false
     onReleased: event => {
-        if (event.button === Qt.RightButton && menu.item)
+        if (event.button === Qt.RightButton && echoMode === TextInput.Normal) {
+            forceActiveFocus();
+            menu.active = true;
             menu.item.popup(root, event.x, event.y);
+        }
     }
 
     Text {

@@ -12,6 +12,7 @@ T.Menu {
     padding: 4
     margins: 4
     overlap: 0
+    onClosed: field.forceActiveFocus()
 
     contentItem: ListView {
         implicitHeight: contentHeight
