@@ -19,7 +19,10 @@ class Window:
         self.handle = display.create_resource_object("window", xid)
 
     def __repr__(self):
-        return f"<window 0x{self.id:x} {self.title!r} {tuple(self.geometry)} pid {self.pid}>"
+        try:
+            return f"<window 0x{self.id:x} {self.title!r} {tuple(self.geometry)} pid {self.pid}>"
+        except (error.BadWindow, error.BadDrawable):
+            return f"<window 0x{self.id:x}, closed>"
 
     def __eq__(self, other):
         return isinstance(other, Window) and other.id == self.id
