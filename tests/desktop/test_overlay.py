@@ -163,7 +163,11 @@ class DrawingTest(OverlayTestCase):
         self.desktop.pointer.click(800, 600)
         self.program.wait_for_log("文本编辑框已被销毁")
         self.assertIn('"a z\\nq"', self.program.log())
+        self.wait_until_settled()
+        empty = self.desktop.screen.shot()
         self.desktop.pointer.click(800, 500)
+        self.wait_for(lambda: desktop.changed_box(empty, self.desktop.screen.shot()),
+                      "the caret of the next editor")
         self.desktop.keyboard.type("next")
         self.desktop.pointer.click(300, 700)
         self.program.wait_for_log('内容: "next"')
