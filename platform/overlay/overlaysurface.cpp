@@ -170,6 +170,7 @@ void OverlaySurface::stackOther(QWindow *other)
     if (!m_covering || other == m_window || other->parent() || floats
         || m_stackedAbove.contains(other))
         return;
+    m_stackedAbove.removeAll(nullptr); // windows that were destroyed meanwhile
     m_stackedAbove.append(other);
     m_backend->keepAbove(other);
 }

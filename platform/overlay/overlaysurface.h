@@ -68,7 +68,7 @@ private:
     QPointer<QWindow> m_window;
     QPointer<QWindow> m_anchor;
     std::unique_ptr<OverlayBackend> m_backend;
-    QList<const QObject *> m_stackedAbove; ///< compared only, never dereferenced
+    QList<QPointer<const QObject>> m_stackedAbove; ///< a later window may get an old address
     bool m_passThrough = false;
     bool m_applied = false; ///< what the window's input shape is now
     bool m_covering = false;
