@@ -86,8 +86,7 @@ QRectF Selection::boundingRect() const
 
 template <typename Change> void Selection::transform(DrawingElement &element, Change change)
 {
-    const bool batched = m_batchStart && m_batchStart->id == element.id;
-    ElementPtr before = batched ? nullptr : copyOf(&element);
+    ElementPtr before = m_batchStart ? nullptr : copyOf(&element);
     QRect damage = element.paintedRect();
     change(element);
     damage |= element.paintedRect();
@@ -100,6 +99,8 @@ template <typename Change> void Selection::transform(DrawingElement &element, Ch
 
 void Selection::record(ElementPtr before, const DrawingElement &element)
 {
+    // A batch may end with another element selected than it began with: undo puts the state of
+    // the one it began with back, and leaves the other alone.
     const QString id = before->id;
     m_document.history.push(
         { HistoryEntry::Transform, id, nullptr, std::move(before), copyOf(&element) });
@@ -168,45 +169,28 @@ void Selection::beginBatch()
         qDebug() << CanvasLog::kBatchNeedsSelection;
         return;
     }
-    if (m_batchStart && m_batchStart->id == selected->id) {
+    if (m_batchStart) {
         qDebug() << CanvasLog::kBatchRunning;
         return;
     }
-    ElementPtr start = copyOf(selected);
-    if (const DrawingElement *left = batchElement())
-        finishBatch(*left);
-    m_batchStart = std::move(start);
-    qDebug() << CanvasLog::kBatchStarted << m_batchStart->id;
+    m_batchStart = copyOf(selected);
+    qDebug() << CanvasLog::kBatchStarted << selected->id;
 }
 
 void Selection::endBatch()
 {
-    const DrawingElement *changed = hasElement() ? batchElement() : nullptr;
-    if (changed)
-        finishBatch(*changed);
-    else
-        qDebug() << CanvasLog::kBatchMissing;
-}
-
-const DrawingElement *Selection::batchElement() const
-{
-    if (!m_batchStart)
-        return nullptr;
     const DrawingElement *selected = element();
-    return selected && selected->id == m_batchStart->id
-        ? selected
-        : m_document.elements.find(m_batchStart->id);
-}
-
-void Selection::finishBatch(const DrawingElement &changed)
-{
+    if (!m_batchStart || !selected) {
+        qDebug() << CanvasLog::kBatchMissing;
+        return;
+    }
     ElementPtr start = std::move(m_batchStart);
-    const QString id = start->id;
-    if (start->boundingRect() == changed.boundingRect()) {
+    const QString id = selected->id;
+    if (start->boundingRect() == selected->boundingRect()) {
         qDebug() << CanvasLog::kBatchUnchanged << id;
         return;
     }
-    record(std::move(start), changed);
+    record(std::move(start), *selected);
     qDebug() << CanvasLog::kBatchEnded << id;
 }
 

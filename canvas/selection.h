@@ -46,12 +46,9 @@ private:
     void select(DrawingElement *element);
     template <typename Change> void transform(DrawingElement &element, Change change);
     void record(ElementPtr before, const DrawingElement &element);
-    /// The element that the running batch began with, whatever is selected by now; or null.
-    [[nodiscard]] const DrawingElement *batchElement() const;
-    void finishBatch(const DrawingElement &changed);
 
     CanvasDocument &m_document;
     mutable ElementRef m_element;
     QString m_elementId;
-    ElementPtr m_batchStart; ///< while a batch runs: its element as it was
+    ElementPtr m_batchStart; ///< while a batch runs: what was selected, as it was then
 };

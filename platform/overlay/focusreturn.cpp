@@ -25,7 +25,18 @@ void FocusReturn::setWindow(QWindow *window)
 
 void FocusReturn::giveBackAfterClick()
 {
-    m_pending = true;
+    if (m_clicked && !m_buttonDown)
+        giveBack();
+    else
+        m_pending = true;
+}
+
+void FocusReturn::giveBack()
+{
+    m_pending = false;
+    m_clicked = false;
+    if (m_watch)
+        m_watch->giveBack();
 }
 
 bool FocusReturn::eventFilter(QObject *, QEvent *event)
@@ -34,12 +45,20 @@ bool FocusReturn::eventFilter(QObject *, QEvent *event)
     case QEvent::FocusOut:
         m_pending = false;
         break;
+    case QEvent::Leave:
+        m_clicked = false;
+        break;
+    case QEvent::MouseButtonPress:
+    case QEvent::TouchBegin:
+        m_buttonDown = true;
+        m_clicked = !m_window->isActive();
+        break;
     case QEvent::MouseButtonRelease:
     case QEvent::TouchEnd:
+        m_buttonDown = false;
         // Before the click takes effect: it may give the keyboard to another window.
-        if (m_pending && m_watch)
-            m_watch->giveBack();
-        m_pending = false;
+        if (m_pending)
+            giveBack();
         break;
     default:
         break;

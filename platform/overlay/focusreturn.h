@@ -25,8 +25,9 @@ public:
     /// `window` must outlive this object.
     void setWindow(QWindow *window);
 
-    /// Hands the keyboard back when the button that is down, or about to be, is released: losing
-    /// the keyboard earlier would end the gesture. Void when the window loses it before that.
+    /// Hands the keyboard back at the end of the click that brought it, whether that click is still
+    /// to come, under way or over: losing the keyboard earlier would end the gesture. Void when the
+    /// window loses it before that.
     Q_INVOKABLE void giveBackAfterClick();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -36,6 +37,10 @@ signals:
 
 private:
     QWindow *m_window = nullptr;
-    bool m_pending = false;
+    void giveBack();
+
+    bool m_pending = false; ///< to be given back when the click ends
+    bool m_buttonDown = false;
+    bool m_clicked = false; ///< clicked since the pointer came, without the keyboard so far
     std::unique_ptr<FocusWatch> m_watch; ///< none where the desktop does not tell
 };

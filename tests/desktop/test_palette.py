@@ -50,13 +50,27 @@ class PaletteTest(desktop.DesktopTestCase):
 
     def test_leaves_the_keyboard_to_what_the_user_types_in(self):
         self.expect_document_keeps_keyboard()  # also after it has just appeared
-        self.palette.click("collapse")
-        self.expect_document_keeps_keyboard()
-        self.palette.click("collapse")
+        for tool, tip in (("eraser", "橡皮擦"), ("clear", "清除画布")):
+            self.palette.hover(tool)  # as a hand does before it clicks
+            self.program.window(title=tip)
+            self.palette.click(tool)
+            self.expect_document_keeps_keyboard()
         self.palette.choose("thickness", "c")
         self.expect_document_keeps_keyboard()
         self.palette.open_flyout("menu")
         self.expect_document_keeps_keyboard()
+
+    def test_gives_the_keyboard_back_after_a_tap_out_of_nowhere(self):
+        for _ in range(4):
+            self.desktop.pointer.move(300, 200)
+            self.wait_for(lambda: not self.program.windows(title="橡皮擦"), "the pointer to be away")
+            x, y = self.palette.point("eraser")
+            self.desktop.pointer.move(x, y)
+            self.desktop.pointer.press()
+            self.desktop.pointer.release()
+            self.program.window(title="橡皮擦")
+            self.wait_for(lambda: self.desktop.windows.active == self.document.window,
+                          "the document to have the keyboard again")
 
     def test_follows_the_hand_and_comes_back_to_the_place_where_it_was_left(self):
         self.palette.open_flyout("menu")
@@ -99,25 +113,37 @@ class PaletteTest(desktop.DesktopTestCase):
 
     def test_can_be_used_with_the_keyboard_alone(self):
         self.desktop.pointer.move(300, 200)
-        self.desktop.keyboard.type("")
-        self.activate(self.window)
-        for _ in range(2):  # the handle, then the button that collapses
-            self.desktop.keyboard.tap("Tab")
-        self.desktop.keyboard.tap("space")
-        self.wait_for(lambda: self.window.geometry.height < 100, "the space bar to press the button")
-        self.desktop.keyboard.tap("Return")
-        self.wait_for(lambda: self.window.geometry.height == 520, "Return to press the button")
-        for _ in range(14):
-            self.desktop.keyboard.tap("Down")
-        self.desktop.keyboard.tap("Left")
-        self.wait_for(lambda: self.flyouts(), "the menu to open")
-        self.desktop.keyboard.tap("Escape")
-        self.wait_for(lambda: not self.flyouts(), "Escape to close the menu")
-        self.desktop.keyboard.tap("Left")
-        self.wait_for(lambda: self.flyouts(), "the menu to open again")
-        self.desktop.keyboard.tap("Up", "Up", "Return")  # from the first row around to "about"? no: settings
+        self.desktop.windows.activate(self.window)
+        self.wait_for(lambda: self.desktop.windows.active == self.window, "the keyboard")
+        keyboard = self.desktop.keyboard
+        keyboard.tap("Tab", "Tab", "space")  # past the handle
+        self.wait_for(lambda: self.window.geometry.height < 100, "the palette to collapse")
+        keyboard.tap("Return")
+        self.wait_for(lambda: self.window.geometry.height == 520, "the palette to unfold")
+        keyboard.tap(*["Down"] * 14, "Left")
+        self.wait_for(self.flyouts, "the menu to open")
+        keyboard.tap("Escape")
+        self.wait_for(lambda: not self.flyouts(), "the menu to close")
+        keyboard.tap("Return")
+        self.wait_for(self.flyouts, "the menu to open again")
+        keyboard.tap("Up", "Return")  # around the end, to the last row
+        self.assertEqual(self.program.wait_for_end(), 0)
         self.expect_no_complaint()
 
-    def activate(self, window):
-        self.desktop.windows.activate(window)
-        self.wait_for(lambda: self.desktop.windows.active == window, "the palette to be active")
+    def test_leaves_the_screen_when_its_monitor_goes(self):
+        self.program.stop()
+        self.desktop.set_monitors([(0, 0, 640, 800), (640, 0, 640, 800)])
+        self.launch()
+        self.wait_for(lambda: self.window.geometry.x == 640 - 32, "the edge of the main monitor")
+        start = self.palette.point("handle")
+        self.desktop.pointer.drag([start, (1000, start[1])])
+        self.wait_for(lambda: self.window.geometry.x > 640, "the other monitor")
+        self.desktop.set_monitors([(0, 0, 640, 800)])
+        self.wait_for(lambda: self.window.geometry.x + 32 <= 640, "the monitor that is left")
+        self.program.stop()
+        self.launch()
+        self.wait_for(lambda: self.window.geometry.x + 32 <= 640, "the monitor that is left")
+
+
+if __name__ == "__main__":
+    desktop.main()

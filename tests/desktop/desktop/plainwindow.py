@@ -26,10 +26,16 @@ class PlainWindow:
         self._handle.set_wm_class("plain", "Plain")
         self._handle.set_wm_normal_hints(flags=1, min_width=0, min_height=0)
         self._fill(screen, width, height)
+        wait_for(self._appear, f"the window {title!r} to appear")
+        self._clicks, self._keys = [], []
+
+    def _appear(self):
+        """Asks until it is granted: a window manager that has only just started may lose a wish."""
+        if self.window.visible:
+            return True
         self._handle.map()
         self._display.sync()
-        wait_for(lambda: self.window.visible, f"the window {title!r} to appear")
-        self._clicks, self._keys = [], []
+        return False
 
     def _fill(self, screen, width, height):
         # As its background pixmap, the server itself repaints the picture.

@@ -3,6 +3,7 @@
 from collections import namedtuple
 
 from Xlib import X, Xatom, error
+from Xlib.protocol import event
 
 Rect = namedtuple("Rect", "x y width height")
 
@@ -162,6 +163,17 @@ class Windows:
         """The window that has the keyboard, as the window manager tells, or None."""
         value = self._root_list("_NET_ACTIVE_WINDOW")
         return Window(self._display, value[0]) if value and value[0] else None
+
+    def activate(self, window):
+        """Gives the keyboard to a window, as the window switcher does."""
+        from_pager = 2
+        data = (from_pager, X.CurrentTime, 0, 0, 0)
+        message = event.ClientMessage(
+            window=window.id, client_type=self._display.get_atom("_NET_ACTIVE_WINDOW"),
+            data=(32, data))
+        self._root.send_event(
+            message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
+        self._display.sync()
 
     @property
     def stacking(self):

@@ -1,0 +1,143 @@
+"""The update notice, offered by a real web server on this machine."""
+
+import hashlib
+import http.server
+import json
+import os
+import socket
+import threading
+
+import desktop
+
+UPDATER = b'#!/bin/sh\necho started > "$(dirname "$0")/started"\n'
+NOTICE = "软件更新"
+
+
+class Service(http.server.ThreadingHTTPServer):
+    """Answers the check with an offer and serves its file."""
+
+    daemon_threads = True
+
+    def __init__(self, push=True, damaged=False):
+        self.questions = []
+        self.may_send_file = threading.Event()
+        self.may_send_file.set()
+        super().__init__(("127.0.0.1", 0), Handler)
+        self.address = f"http://127.0.0.1:{self.server_port}"
+        body = UPDATER + b"damaged" if damaged else UPDATER
+        self.offer = {
+            "push": push, "version": "9.9.9", "notes": "更快、更稳定\n" * 3, "updater": "updater",
+            "files": [{"url": f"{self.address}/updater", "name": "updater",
+                       "sha256": hashlib.sha256(body).hexdigest()}]}
+        threading.Thread(target=self.serve_forever, daemon=True).start()
+
+    def close(self):
+        self.may_send_file.set()
+        self.shutdown()
+        self.server_close()
+
+
+class Handler(http.server.BaseHTTPRequestHandler):
+
+    def do_POST(self):
+        body = self.rfile.read(int(self.headers["Content-Length"]))
+        self.server.questions.append((self.headers["Content-Type"], json.loads(body)))
+        self.reply(json.dumps(self.server.offer).encode())
+
+    def do_GET(self):
+        self.send_response(200)
+        self.send_header("Content-Length", str(len(UPDATER)))
+        self.end_headers()
+        self.wfile.write(UPDATER[:10])
+        self.server.may_send_file.wait(60)
+        self.wfile.write(UPDATER[10:])
+
+    def reply(self, body):
+        self.send_response(200)
+        self.send_header("Content-Length", str(len(body)))
+        self.end_headers()
+        self.wfile.write(body)
+
+    def log_message(self, *_):
+        pass
+
+
+class UpdateTest(desktop.DesktopTestCase):
+
+    desktop_options = {"language": "zh_CN"}
+
+    def launch(self, address):
+        os.makedirs(self.app_folder, exist_ok=True)
+        with open(os.path.join(self.app_folder, "config.ini"), "w", encoding="utf-8") as config:
+            config.write(f"[UPDATE]\nUpdateURL={address}/check\n")
+        self.program = self.start()
+        self.palette = desktop.Palette(self.desktop, self.program)
+        self.palette.window
+
+    def serve(self, **options):
+        service = Service(**options)
+        self.addCleanup(service.close)
+        self.launch(service.address)
+        return service
+
+    def press(self, notice, from_right):
+        """Presses one of the notice's buttons, which stand in a row at its bottom right."""
+        x = notice.geometry.width - 24 - 40 - 100 * from_right
+        self.desktop.pointer.click(*notice.at(x, notice.geometry.height - 40))
+
+    def test_installs_what_was_offered_and_starts_the_updater(self):
+        service = self.serve()
+        notice = self.program.window(title=NOTICE)
+        kind, question = service.questions[0]
+        self.assertEqual(kind, "application/json")
+        self.assertEqual((question["app"], question["version"]), ("Dravelin", "3.2.0"))
+        self.assertIn("|", question["os"])
+        self.press(notice, 0)
+        self.assertEqual(self.program.wait_for_end(), 0)
+        started = os.path.join(self.app_folder, "started")
+        self.wait_for(lambda: os.path.exists(started), "the updater to run")
+
+    def test_a_damaged_file_is_dropped_and_the_reason_shown(self):
+        self.serve(damaged=True)
+        notice = self.program.window(title=NOTICE)
+        height = notice.geometry.height
+        self.press(notice, 0)
+        self.program.wait_for_log("校验值不符")
+        self.wait_for(lambda: notice.geometry.height > height, "the notice to make room for the reason")
+        self.assertTrue(self.program.running)
+        self.assertFalse(os.path.exists(os.path.join(self.app_folder, "updater")))
+
+    def test_a_download_can_be_cancelled(self):
+        service = self.serve()
+        service.may_send_file.clear()
+        notice = self.program.window(title=NOTICE)
+        idle = notice.geometry.height
+        self.press(notice, 0)
+        self.wait_for(lambda: notice.geometry.height > idle, "the progress bar")
+        self.press(notice, 0)
+        self.wait_for(lambda: notice.geometry.height != idle, "the notice to say it was cancelled")
+        self.assertFalse(os.path.exists(os.path.join(self.app_folder, "updater")))
+        self.press(notice, 1)
+        self.wait_for(lambda: not self.program.windows(title=NOTICE), "the notice to close")
+
+    def test_no_offer_no_notice(self):
+        service = self.serve(push=False)
+        self.wait_for(lambda: service.questions, "the check")
+        self.palette.choose("menu", "about")
+        self.program.window(title="关于")
+        self.assertFalse(self.program.windows(title=NOTICE))
+
+    def test_a_silent_server_delays_nothing(self):
+        with socket.socket() as silent:
+            silent.bind(("127.0.0.1", 0))
+            silent.listen()
+            self.launch(f"http://127.0.0.1:{silent.getsockname()[1]}")
+            self.palette.start_drawing()
+
+    def test_a_plain_address_elsewhere_is_not_asked(self):
+        self.launch("http://updates.example.invalid")
+        self.program.wait_for_log("更新地址不安全")
+
+
+if __name__ == "__main__":
+    desktop.main()
