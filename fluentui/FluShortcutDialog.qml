@@ -62,7 +62,7 @@ T.Popup {
                 FluText {
                     width: parent.width - 40
                     text: root.title
-                    font: Qt.font({ family: FluTextStyle.Title.family, pixelSize: 20, weight: Font.DemiBold })
+                    font: FluTextStyle.Subtitle
                     wrapMode: Text.Wrap
                 }
                 FluText {
@@ -79,7 +79,7 @@ T.Popup {
                         anchors.centerIn: parent
                         capHeight: 44
                         spacing: 8
-                        font: Qt.font({ family: FluTextStyle.Title.family, pixelSize: 16, weight: Font.DemiBold })
+                        font: FluTextStyle.BodyLarge
                         keys: root.keys
                     }
                 }

@@ -21,6 +21,7 @@ QFont textFont(int sizePx, QFont::Weight weight = QFont::Normal)
 
 FluTextStyle::FluTextStyle(QObject *parent)
     : QObject(parent), m_caption(textFont(12)), m_body(textFont(13)),
-      m_bodyStrong(textFont(13, QFont::DemiBold)), m_title(textFont(28, QFont::DemiBold))
+      m_bodyStrong(textFont(13, QFont::DemiBold)), m_bodyLarge(textFont(16, QFont::DemiBold)),
+      m_subtitle(textFont(20, QFont::DemiBold)), m_title(textFont(28, QFont::DemiBold))
 {
 }

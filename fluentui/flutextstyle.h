@@ -13,6 +13,8 @@ class FluTextStyle : public QObject
     Q_PROPERTY(QFont Caption MEMBER m_caption CONSTANT FINAL)
     Q_PROPERTY(QFont Body MEMBER m_body CONSTANT FINAL)
     Q_PROPERTY(QFont BodyStrong MEMBER m_bodyStrong CONSTANT FINAL)
+    Q_PROPERTY(QFont BodyLarge MEMBER m_bodyLarge CONSTANT FINAL)
+    Q_PROPERTY(QFont Subtitle MEMBER m_subtitle CONSTANT FINAL)
     Q_PROPERTY(QFont Title MEMBER m_title CONSTANT FINAL)
 
 public:
@@ -22,5 +24,7 @@ private:
     QFont m_caption;
     QFont m_body;
     QFont m_bodyStrong;
+    QFont m_bodyLarge;
+    QFont m_subtitle;
     QFont m_title;
 };

@@ -217,7 +217,7 @@ void TestFluShortcutPicker::fitsANarrowWindow()
     open(ui);
     const QQuickItem *capture = ui.window()->activeFocusItem();
     QTRY_COMPARE(capture->width(), 400.0);
-    QTRY_COMPARE(QmlFixture::center(capture), QPoint(250, 300));
+    QTRY_VERIFY((QmlFixture::center(capture) - QPoint(250, 300)).manhattanLength() <= 1);
     ui.window()->resize(320, 600);
     QTRY_VERIFY(capture->width() < 320);
 }
