@@ -5,6 +5,9 @@ Rectangle {
     id: root
 
     default property alias buttons: row.data
+    /// How wide each button is, so that all of them fill the strip.
+    readonly property real buttonWidth: (row.width - (row.children.length - 1) * row.spacing)
+        / Math.max(1, row.children.length)
 
     height: 68
     color: FluTheme.dialogFooterColor
@@ -12,8 +15,8 @@ Rectangle {
     // Only the lower corners are round.
     Rectangle {
         width: parent.width
-        height: parent.radius
-        color: parent.color
+        height: root.radius
+        color: root.color
     }
     Rectangle {
         width: parent.width
@@ -22,8 +25,6 @@ Rectangle {
     }
     Row {
         id: row
-
-        readonly property real buttonWidth: (width - (children.length - 1) * spacing) / Math.max(1, children.length)
 
         x: 20
         y: 18

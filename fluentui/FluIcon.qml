@@ -14,5 +14,6 @@ ColorImage {
     width: iconSize
     height: iconSize
     source: FluIconCatalogue.url(iconSource)
-    sourceSize: Qt.size(devicePixels, devicePixels)
+    sourceSize.width: devicePixels
+    sourceSize.height: devicePixels
 }

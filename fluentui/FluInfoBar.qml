@@ -51,8 +51,13 @@ FluObject {
         return stack.add({ type: type, text: text, duration: duration, moremsg: moremsg });
     }
 
+    /// Null while the item is in no window.
+    function overlayOf(item: Item): Item {
+        return item.T.Overlay.overlay;
+    }
+
     function ensureStack() {
-        const overlay = bars.root ? bars.root.T.Overlay.overlay : null;
+        const overlay = bars.root ? overlayOf(bars.root) : null;
         if (!overlay) {
             console.warn("FluInfoBar: root must be an item in a window");
             return false;

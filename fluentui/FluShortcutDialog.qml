@@ -85,21 +85,23 @@ T.Popup {
                 }
             }
             FluDialogFooter {
+                id: footer
+
                 width: parent.width
                 radius: 8
 
                 FluButton {
-                    width: parent.buttonWidth
+                    width: footer.buttonWidth
                     text: root.neutralText
                     onClicked: root.close()
                 }
                 FluButton {
-                    width: parent.buttonWidth
+                    width: footer.buttonWidth
                     text: root.negativeText
                     onClicked: root.keys = root.current
                 }
                 FluFilledButton {
-                    width: parent.buttonWidth
+                    width: footer.buttonWidth
                     text: root.positiveText
                     onClicked: {
                         root.saved(root.keys);

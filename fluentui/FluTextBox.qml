@@ -60,7 +60,7 @@ T.TextField {
 
     Text {
         x: root.leftPadding
-        width: root.availableWidth
+        width: root.width - root.leftPadding - root.rightPadding
         height: root.height
         visible: root.length === 0 && root.preeditText === ""
         text: root.placeholderText
