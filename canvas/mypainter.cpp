@@ -198,7 +198,7 @@ void MyPainter::addText(QPoint pos)
     m_text.place(m_textToDraw, pos, m_textSize);
 }
 
-void MyPainter::addText(QString text, int x, int y, int fontSize)
+void MyPainter::addText(const QString &text, int x, int y, int fontSize)
 {
     m_text.placePrepared(text, QPoint(x, y), fontSize);
 }
@@ -234,7 +234,7 @@ bool MyPainter::selectElementAt(QPoint pos)
     return m_selection.selectAt(pos);
 }
 
-bool MyPainter::selectElementById(QString elementId)
+bool MyPainter::selectElementById(const QString &elementId)
 {
     return m_selection.selectById(elementId);
 }

@@ -105,7 +105,7 @@ public:
     Q_INVOKABLE void undoGradient();
     Q_INVOKABLE void clear();
     Q_INVOKABLE void addText(QPoint pos);
-    Q_INVOKABLE void addText(QString text, int x, int y, int fontSize);
+    Q_INVOKABLE void addText(const QString &text, int x, int y, int fontSize);
     /// The folder of the running executable, in native separators.
     Q_INVOKABLE QString getExePath();
     Q_INVOKABLE void endPaint(QPoint pos, bool shiftPressed);
@@ -115,7 +115,7 @@ public:
     Q_INVOKABLE void repeatDraw(int time = BreathingEffect::kDefaultPeriodMs);
     Q_INVOKABLE void forceUpdateImage();
     Q_INVOKABLE bool selectElementAt(QPoint pos);
-    Q_INVOKABLE bool selectElementById(QString elementId);
+    Q_INVOKABLE bool selectElementById(const QString &elementId);
     Q_INVOKABLE void translateSelectedElement(int dx, int dy);
     Q_INVOKABLE void scaleSelectedElement(double factor);
     Q_INVOKABLE void scaleSelectedElement(double factorX, double factorY);

@@ -13,7 +13,7 @@
 struct X11Key {
     xcb_keycode_t code = 0;
     uint16_t modifiers = 0; ///< bits of the core protocol, lock keys included
-    auto operator<=>(const X11Key &) const = default;
+    auto operator<=>(const X11Key &) const = default; // NOLINT(modernize-use-nullptr): mistaken
 };
 
 /// Where the keys of Qt's names sit on the keyboard at present, and which modifier bits its

@@ -11,7 +11,7 @@
 
 #include <memory>
 
-#include <signal.h>
+#include <csignal>
 
 using namespace CaptureTexts;
 

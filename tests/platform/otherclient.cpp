@@ -16,10 +16,10 @@ OtherClient::OtherClient() : m_connection(xcb_connect(nullptr, nullptr))
 
 void OtherClient::tap(const QList<uint32_t> &symbols)
 {
-    for (auto symbol = symbols.begin(); symbol != symbols.end(); ++symbol)
-        press(*symbol);
-    for (auto symbol = symbols.rbegin(); symbol != symbols.rend(); ++symbol)
-        release(*symbol);
+    for (const uint32_t symbol : symbols)
+        press(symbol);
+    for (qsizetype i = symbols.size() - 1; i >= 0; --i)
+        release(symbols[i]);
 }
 
 void OtherClient::tapCode(const QList<uint32_t> &heldSymbols, xcb_keycode_t code)

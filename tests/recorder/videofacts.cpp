@@ -26,7 +26,7 @@ VideoFacts VideoFacts::of(const QString &path)
             "stream=codec_type,width,height,duration,nb_read_frames", path });
     VideoFacts facts;
     const QJsonArray streams = QJsonDocument::fromJson(json)["streams"].toArray();
-    for (const QJsonValue &stream : streams) {
+    for (const QJsonValue stream : streams) {
         if (stream["codec_type"].toString() == "audio")
             facts.hasSound = true;
         if (stream["codec_type"].toString() != "video")
