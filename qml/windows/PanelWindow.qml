@@ -10,8 +10,6 @@ Window {
     default property alias content: body.data
 
     readonly property int stripHeight: 40
-    property int contentMargin: 24
-    property int closeMargin: 8
 
     /// The user closes the window.
     signal dismissed()
@@ -43,7 +41,7 @@ Window {
 
         CloseButton {
             id: closeButton
-            anchors { right: parent.right; top: parent.top; margins: root.closeMargin }
+            anchors { right: parent.right; top: parent.top; margins: 8 }
             onClicked: root.dismissed()
         }
 
@@ -52,9 +50,9 @@ Window {
             anchors {
                 fill: parent
                 topMargin: root.stripHeight
-                leftMargin: root.contentMargin
-                rightMargin: root.contentMargin
-                bottomMargin: root.contentMargin
+                leftMargin: 24
+                rightMargin: 24
+                bottomMargin: 24
             }
         }
     }
