@@ -66,7 +66,7 @@ class DesktopTestCase(unittest.TestCase):
 
     def _finish(self):
         try:
-            if not self._outcome.success:
+            if self._has_failed():
                 self._keep_evidence()
             self.desktop.keyboard.release_all()
             self.desktop.pointer.release_all()
@@ -77,6 +77,11 @@ class DesktopTestCase(unittest.TestCase):
             self.desktop.close()
         if any(reports):
             self.fail("a sanitizer reported:\n" + "\n".join(reports))
+
+    def _has_failed(self):
+        # The outcome's own flag is reset before each clean-up runs.
+        result = self._outcome.result
+        return any(test is self for test, _ in result.failures + result.errors)
 
     def _keep_evidence(self):
         name = self.id().replace("__main__.", "")
