@@ -50,10 +50,24 @@ private:
     QLockFile m_file;
 };
 
+QString socketPath(const QString &name)
+{
+    return QDir::tempPath() + QLatin1Char('/') + name;
+}
+
+bool isHeldByAnotherUser(const QString &name)
+{
+    const QFileInfo socketFile(socketPath(name));
+    return socketFile.exists() && socketFile.ownerId() != currentUser();
+}
+
 /// Connected to the running instance, or nothing.
 std::unique_ptr<QLocalSocket> connectToRunningInstance()
 {
     for (const QString &name : { sharedName(), ownName() }) {
+        if (isHeldByAnotherUser(name)) {
+            continue; // the superuser would be let in
+        }
         auto socket = std::make_unique<QLocalSocket>();
         socket->connectToServer(name);
         if (socket->waitForConnected(kConnectTimeoutMs)) {
@@ -74,9 +88,9 @@ void sendArguments(QLocalSocket &socket, const QStringList &arguments)
 /// Why `server` could not listen.
 bool nameBelongsToAnotherUser(const QLocalServer &server, const QString &name)
 {
-    const QFileInfo socketFile(QDir::tempPath() + QLatin1Char('/') + name);
-    return socketFile.exists() ? socketFile.ownerId() != currentUser()
-                               : server.serverError() == QAbstractSocket::SocketAccessError;
+    return QFile::exists(socketPath(name))
+        ? isHeldByAnotherUser(name)
+        : server.serverError() == QAbstractSocket::SocketAccessError;
 }
 
 } // namespace
@@ -87,6 +101,7 @@ SingleInstance::~SingleInstance()
     if (m_server && nameIsTakenOver()) {
         closeBesidesSuccessor();
     }
+    m_server.reset(); // while the lock is held: a successor may be about to take the name
 }
 
 void SingleInstance::closeBesidesSuccessor()

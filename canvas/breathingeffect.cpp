@@ -101,12 +101,11 @@ void BreathingEffect::pulse()
     ++m_stepsDone;
     const double phase = static_cast<double>(m_stepsDone % m_stepsPerPeriod) / m_stepsPerPeriod;
     const double wave = (std::cos(2 * phase * kPi) + 1) * 0.5;
-    const int target = m_pulseTarget;
-    m_document.elements.at(target)->opacity =
-        wave * (m_baseOpacity - kLowestOpacity) + kLowestOpacity;
-    m_document.events.breathingReported(true);
-    if (m_document.elements.isValid(target)) // a listener may have changed the board
-        m_document.events.contentChanged(m_document.elements.at(target)->paintedRect());
+    DrawingElement &target = *m_document.elements.at(m_pulseTarget);
+    const QRect area = target.paintedRect();
+    target.opacity = wave * (m_baseOpacity - kLowestOpacity) + kLowestOpacity;
+    m_document.events.breathingReported(true); // a listener may change the board
+    m_document.events.contentChanged(area);
 }
 
 void BreathingEffect::restoreOpacity(int index)

@@ -54,6 +54,8 @@ void Eraser::erase(const QPoint &previous, const QPoint &pos)
     const std::vector<QPoint> samples = samplePath(previous, pos);
     QRect area;
     for (int i = m_document.elements.size() - 1; i >= 0; --i) {
+        if (!m_document.elements.isValid(i))
+            continue; // a listener told of the last one has changed the board
         const DrawingElement *element = m_document.elements.at(i);
         const bool touched = std::any_of(samples.begin(), samples.end(),
             [=](const QPoint &sample) { return element->contains(sample, tolerance); });

@@ -2,6 +2,7 @@
 
 #include "canvas/elementlist.h"
 #include "canvas/logtexts.h"
+#include "canvas/renderer.h"
 #include "elements/drawingelement.h"
 
 #include <QCoreApplication>
@@ -20,16 +21,25 @@ const QString kNamePrefix = QStringLiteral("/screenshot_");
 const QString kTimeFormat = QStringLiteral("yyyyMMdd_hhmmss");
 const QString kSuffix = QStringLiteral(".png");
 
-QImage paintPicture(const ElementList &elements, const QSize &size, qreal ratio)
+/// One painter without a reset between the elements, unlike the screen: a stroke after an arrow is
+/// filled with the arrow's colour.
+QImage paintInOneGo(const ElementList &elements, const QSize &size)
 {
-    QImage image(size * ratio, QImage::Format_ARGB32);
-    image.setDevicePixelRatio(ratio);
+    QImage image(size, QImage::Format_ARGB32);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     for (const ElementPtr &element : elements)
         element->paint(&painter);
     return image;
+}
+
+QImage paintAsShown(const ElementList &elements, const QSize &size, qreal ratio)
+{
+    Renderer renderer(elements);
+    renderer.setDevicePixelRatio(ratio);
+    renderer.rebuild(size);
+    return renderer.picture();
 }
 
 QString baseName()
@@ -65,7 +75,7 @@ void PictureExport::saveBesideExecutable(const QSize &size) const
         return;
     const QString path =
         QDir::toNativeSeparators(QCoreApplication::applicationDirPath() + baseName() + kSuffix);
-    if (paintPicture(m_elements, size, 1.0).save(path))
+    if (paintInOneGo(m_elements, size).save(path))
         qDebug() << CanvasLog::kImageSaved << path;
     else
         qDebug() << CanvasLog::kImageNotSaved;
@@ -78,7 +88,7 @@ QString PictureExport::save(const QSize &size, qreal ratio)
         m_error = QCoreApplication::translate("PictureExport", "画布上没有内容，无需保存");
         return {};
     }
-    const QImage image = paintPicture(m_elements, size, ratio);
+    const QImage image = paintAsShown(m_elements, size, ratio);
     const QString folders[] = { QCoreApplication::applicationDirPath(),
         QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) };
     QString problem;

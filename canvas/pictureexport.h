@@ -15,8 +15,8 @@ public:
     /// outcome is only logged; without elements or without a size nothing happens.
     void saveBesideExecutable(const QSize &size) const;
 
-    /// Writes the picture beside the executable or, where that fails, into the user's pictures
-    /// folder; never replaces a file. Returns the path, or an empty text: see `error()`.
+    /// Writes what the screen shows beside the executable or, where that fails, into the user's
+    /// pictures folder; never replaces a file. Returns the path, or an empty text: see `error()`.
     /// `size` is the canvas's in logical pixels, the picture has `ratio` pixels for each.
     QString save(const QSize &size, qreal ratio);
     /// Why the latest `save` returned nothing, for people.

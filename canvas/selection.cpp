@@ -9,6 +9,17 @@
 
 #include <cmath>
 
+namespace
+{
+
+/// No number and infinity are refused like what is not above zero.
+bool isUsable(double factor)
+{
+    return std::isfinite(factor) && factor > 0;
+}
+
+} // namespace
+
 DrawingElement *Selection::element() const
 {
     if (DrawingElement *element = m_element.get())
@@ -123,7 +134,7 @@ void Selection::scale(double factor)
     DrawingElement *selected = elementToTransform();
     if (!selected)
         return;
-    if (!(factor > 0)) {
+    if (!isUsable(factor)) {
         qDebug() << CanvasLog::kBadFactor;
         return;
     }
@@ -137,7 +148,7 @@ void Selection::scale(double factorX, double factorY)
     DrawingElement *selected = elementToTransform();
     if (!selected)
         return;
-    if (!(factorX > 0) || !(factorY > 0)) {
+    if (!isUsable(factorX) || !isUsable(factorY)) {
         qDebug() << CanvasLog::kBadFactor;
         return;
     }

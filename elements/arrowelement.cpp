@@ -42,6 +42,8 @@ bool ArrowElement::contains(const QPoint &point, int tolerance) const
     const QPolygonF triangle(head());
     if (triangle.containsPoint(point, Qt::OddEvenFill))
         return true;
+    if (tolerance < 0)
+        return false;
     const double reach = double(tolerance) * tolerance;
     for (qsizetype i = 0; i < triangle.size(); ++i) {
         const QPointF &next = triangle.at((i + 1) % triangle.size());

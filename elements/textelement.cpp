@@ -11,7 +11,12 @@ namespace
 constexpr qint64 kFrameMarginPx = 5;
 constexpr qsizetype kPreviewLength = 50;
 
-Q_LOGGING_CATEGORY(lcText, "dravelin.elements.text")
+/// The log shows these lines without a category, like all others; yet when they are switched off,
+/// their texts need not be made up.
+const QLoggingCategory &lcText()
+{
+    return *QLoggingCategory::defaultCategory();
+}
 
 QStringList lineLengths(const QStringList &lines)
 {
@@ -64,7 +69,10 @@ void TextElement::drawLines(QPainter *painter, const TextLayout &block) const
 
 bool TextElement::contains(const QPoint &point, int tolerance) const
 {
-    return geometry::grown(boundingRect(), tolerance).contains(point);
+    const QRect area = geometry::grown(boundingRect(), tolerance);
+    // A tolerance far below zero turns the rectangle inside out, where contains() still finds
+    // points.
+    return area.isValid() && area.contains(point);
 }
 
 QRect TextElement::boundingRect() const

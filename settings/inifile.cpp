@@ -26,8 +26,9 @@ bool isWellFormed(const QString &text)
         const bool isGroup = content.startsWith(QLatin1Char('['));
         const bool isComplete =
             isGroup ? content.contains(QLatin1Char(']')) : content.contains(QLatin1Char('='));
-        if (!continues && !isComplete && !content.isEmpty()
-            && !content.startsWith(QLatin1Char(';'))) {
+        const bool isComment =
+            content.startsWith(QLatin1Char(';')) || content.startsWith(QLatin1Char('#'));
+        if (!continues && !isComplete && !content.isEmpty() && !isComment) {
             return false;
         }
         continues = content.endsWith(QLatin1Char('\\'));

@@ -227,15 +227,28 @@ void TestPenInput::gestureSurvivesTheLossOfItsMark()
     QVERIFY(added.isEmpty());
 
     // A listener that empties the board the moment a mark is on it.
-    connect(&canvas, &MyPainter::canUndoChanged, &canvas, [&] {
+    const auto emptyTheBoard = [&] {
         if (!canvas.elements().isEmpty())
             canvas.clear();
-    });
+    };
+    connect(&canvas, &MyPainter::canUndoChanged, &canvas, emptyTheBoard);
     for (int mode = MyPainter::FreehandMode; mode <= MyPainter::NumberedCircleMode; ++mode)
         canvas.drag(mode, { QPoint(10, 10), QPoint(50, 50), QPoint(90, 10) });
     canvas.addText(QStringLiteral("text"), 5, 5, 20);
     QVERIFY(canvas.elements().isEmpty());
     QVERIFY(!canvas.canUndo());
+
+    // The same amid the sweep of an eraser over several marks.
+    canvas.disconnect();
+    for (int y = 10; y < 50; y += 10)
+        canvas.line(QPoint(10, y), QPoint(90, y));
+    canvas.setIsEraserMode(true);
+    canvas.setDrawMode(MyPainter::FreehandMode);
+    canvas.beginPaint(QPoint(50, 5));
+    canvas.movePaint(QPoint(50, 5), false);
+    connect(&canvas, &MyPainter::canUndoChanged, &canvas, emptyTheBoard);
+    canvas.movePaint(QPoint(50, 60), false);
+    QVERIFY(canvas.elements().isEmpty());
 }
 
 void TestPenInput::noSizeNoMark()

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -54,6 +55,7 @@ private slots:
     void cleanup();
     void emptyBoardsGiveNoPicture();
     void picturesHoldTheMarksOnly();
+    void savedIsWhatIsShown();
     void savingNeverReplaces();
     void anotherFolderOrAReason_data();
     void anotherFolderOrAReason();
@@ -100,6 +102,22 @@ void TestPictureExport::picturesHoldTheMarksOnly()
     QVERIFY(picture.hasAlphaChannel());
     QCOMPARE(picture.pixelColor(100, 75), QColor(Qt::blue));
     QCOMPARE(picture.pixel(100, 500), qRgba(0, 0, 0, 0));
+}
+
+void TestPictureExport::savedIsWhatIsShown()
+{
+    TestCanvas canvas;
+    canvas.drag(MyPainter::ArrowMode, { QPoint(10, 140), QPoint(100, 140) });
+    canvas.drag(MyPainter::FreehandMode, { QPoint(20, 20), QPoint(150, 20), QPoint(150, 120) });
+    const QImage saved(canvas.savePicture());
+    QCOMPARE(saved.pixel(120, 40), qRgba(0, 0, 0, 0)); // the curve is not filled
+    QImage shown(200, 150, QImage::Format_ARGB32);
+    shown.fill(Qt::transparent);
+    QPainter painter(&shown);
+    painter.setCompositionMode(QPainter::CompositionMode_Source); // blending would round
+    canvas.paint(&painter);
+    painter.end();
+    QCOMPARE(saved.convertToFormat(shown.format()), shown);
 }
 
 void TestPictureExport::savingNeverReplaces()

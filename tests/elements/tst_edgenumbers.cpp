@@ -27,7 +27,7 @@ private slots:
 void TestEdgeNumbers::initTestCase()
 {
     // A hundred thousand log lines would only slow the test down.
-    QLoggingCategory::setFilterRules(QStringLiteral("dravelin.elements.*=false"));
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
 }
 
 namespace
