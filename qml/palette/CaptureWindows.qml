@@ -28,10 +28,10 @@ Item {
 
     function toggleRecording() {
         if (!isRecordIcon) {
-            if (panel)
-                panel.stopRecord();
-            recordLoader.source = "";
             recordIcon = idleIcon;
+            // A panel that still finishes its file closes by itself.
+            if (!panel || !panel.stopRecord())
+                recordLoader.source = "";
             return;
         }
         recordIcon = "qrc:/icons/stop.png";
