@@ -23,7 +23,7 @@ Window {
         destroy();
     }
 
-    screen: Qt.application.screens[0]
+    screen: Application.screens[0]
     title: heading
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint | Qt.WindowDoesNotAcceptFocus
     color: "transparent"

@@ -10,32 +10,35 @@ Item {
 
     anchors.fill: parent
 
-    Repeater {
-        model: 4
+    CornerMark {
+        anchors.fill: parent
+        color: root.color
+        armLength: root.armLength
+        armWidth: root.armWidth
+    }
 
-        Item {
-            id: corner
+    CornerMark {
+        anchors.fill: parent
+        color: root.color
+        armLength: root.armLength
+        armWidth: root.armWidth
+        isRight: true
+    }
 
-            required property int index
-            readonly property bool isRight: index % 2 === 1
-            readonly property bool isBottom: index > 1
-            readonly property int horizontal: Math.min(root.armLength, root.width)
-            readonly property int vertical: Math.min(root.armLength, root.height)
+    CornerMark {
+        anchors.fill: parent
+        color: root.color
+        armLength: root.armLength
+        armWidth: root.armWidth
+        isBottom: true
+    }
 
-            Rectangle {
-                x: corner.isRight ? root.width - width : 0
-                y: corner.isBottom ? root.height - height : 0
-                width: corner.horizontal
-                height: root.armWidth
-                color: root.color
-            }
-            Rectangle {
-                x: corner.isRight ? root.width - width : 0
-                y: corner.isBottom ? root.height - height : 0
-                width: root.armWidth
-                height: corner.vertical
-                color: root.color
-            }
-        }
+    CornerMark {
+        anchors.fill: parent
+        color: root.color
+        armLength: root.armLength
+        armWidth: root.armWidth
+        isRight: true
+        isBottom: true
     }
 }

@@ -48,7 +48,7 @@ Rectangle {
         }
         onReleased: {
             if (root.callBackFunc)
-                root.callBackFunc();
+                root.callBackFunc(); // qmllint disable
         }
     }
 }

@@ -33,7 +33,7 @@ function beside(region, area, item) {
     return Qt.point(x, area.height - edgeGap - item.height);
 }
 
-/// Like `beside`, but at the region's side rather than inside it.
+/// Like `beside`, but at the region's side rather than inside it; null where there is no room.
 function outside(region, area, item) {
     const place = beside(region, area, item);
     const isInside = place.y < region.y + region.height && place.y + item.height > region.y
@@ -45,5 +45,5 @@ function outside(region, area, item) {
     const y = clamp(region.y + region.height - item.height, edgeGap, area.height - edgeGap - item.height);
     if (right + item.width <= area.width)
         return Qt.point(right, y);
-    return left >= 0 ? Qt.point(left, y) : place;
+    return left >= 0 ? Qt.point(left, y) : null;
 }

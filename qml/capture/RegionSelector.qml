@@ -160,8 +160,8 @@ Item {
                 x: (modelData.h + 1) / 2 * (frame.width + 2 * root.borderMargin) - root.borderMargin - width / 2
                 y: (modelData.v + 1) / 2 * (frame.height + 2 * root.borderMargin) - root.borderMargin - height / 2
                 posType: modelData.posType
-                color: root.selectDot
-                border.color: root.selectDot
+                color: root.selectDot // qmllint disable unqualified
+                border.color: color
                 callBackFunc: () => root.storeCorners()
                 onSigPosChanged: mousePoint => root.resize(modelData.h, modelData.v,
                                                            handle.mapToItem(root, mousePoint))

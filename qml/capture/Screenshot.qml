@@ -48,7 +48,7 @@ Window {
         close();
     }
 
-    screen: Qt.application.screens[0]
+    screen: Application.screens[0]
     title: qsTr("截图")
     flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
     color: "transparent"

@@ -26,6 +26,8 @@ Window {
     /// The user has ended the recording; the window closes once the file is whole.
     property bool leaving: false
     property bool failureTold: false
+    /// How long the recording has run; empty while none does.
+    readonly property alias elapsed: indicator.elapsed
 
     readonly property var audioChoices: [
         { text: qsTr("麦克风+系统"), option: "" },
@@ -110,10 +112,14 @@ Window {
 
     function tellSaved() {
         if (!failureTold && captureObject.report.filePath !== "")
-            Notices.show({ heading: qsTr("录像已保存"), filePath: captureObject.report.filePath });
+            Notices.show({
+                heading: qsTr("录像已保存"),
+                detail: indicator.note,
+                filePath: captureObject.report.filePath
+            });
     }
 
-    screen: Qt.application.screens[0]
+    screen: Application.screens[0]
     title: qsTr("录屏")
     // While it records, the window lies over the desktop like glass.
     flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
@@ -144,7 +150,10 @@ Window {
         }
         onRecordingStopped: {
             console.log("QML监听到：录制已停止");
-            indicator.visible = false;
+            indicator.end();
+            // A recorder that had to be killed is reported twice.
+            if (!root.recording)
+                return;
             root.recording = false;
             root.tellSaved();
             if (root.leaving)
@@ -152,7 +161,7 @@ Window {
         }
         onRecordingError: errorMessage => {
             console.log("QML监听到：录制错误:", errorMessage);
-            indicator.visible = false;
+            indicator.end();
             root.tellFailure(messages.controllerFailure(errorMessage));
         }
     }
@@ -161,7 +170,7 @@ Window {
         target: captureObject.report
 
         function onWarning(code, text) {
-            indicator.note = [indicator.note, messages.warning(code, text)].filter(part => part !== "").join(" · ");
+            indicator.add(messages.warning(code, text));
         }
         function onError(code, text) {
             root.tellFailure(messages.failure(code, text));

@@ -25,7 +25,6 @@ FluShortcutPicker {
             former.destroy();
     }
 
-    height: 40
     title: text
     message: qsTr("按下键盘用于改变热键")
     positiveText: qsTr("保存")

@@ -54,7 +54,8 @@ RowLayout {
 
     AccentButton {
         Layout.preferredHeight: box.height
-        visible: root.offered
+        // The list's first entry is selected for a moment before the current language is.
+        visible: root.offered && !chooseCurrent.running
         text: qsTr("应用")
         onClicked: root.apply(root.selectedCode())
     }

@@ -1,13 +1,13 @@
 import QtQuick
 import QtQuick.Templates as T
 
-/// The thin scroll bar of a panel; it takes no room of its own.
+/// The thin scroll bar of a panel; it stands in the margin.
 T.ScrollBar {
     id: root
 
     implicitWidth: 8
     minimumSize: 0.1
-    policy: size < 1 ? T.ScrollBar.AlwaysOn : T.ScrollBar.AlwaysOff
+    visible: size < 1
 
     contentItem: Rectangle {
         implicitWidth: 4

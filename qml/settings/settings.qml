@@ -102,7 +102,11 @@ PanelWindow {
         contentHeight: column.implicitHeight
         boundsBehavior: Flickable.StopAtBounds
         clip: true
-        T.ScrollBar.vertical: PanelScrollBar {}
+        T.ScrollBar.vertical: PanelScrollBar {
+            parent: scroll.parent
+            x: scroll.width + Math.round((root.contentMargin - width) / 2)
+            height: scroll.height
+        }
 
         ColumnLayout {
             id: column
@@ -131,10 +135,11 @@ PanelWindow {
                     required property var modelData
 
                     Layout.fillWidth: true
+                    Layout.preferredHeight: 40
                     text: modelData.text
                     settingsKey: modelData.key
                     fallback: modelData.fallback
-                    hotKeys: root.hotKeys
+                    hotKeys: root.hotKeys // qmllint disable unqualified
                     onChosen: sequence => root.saveKeyAndReload(settingsKey, sequence)
                 }
             }
