@@ -710,7 +710,7 @@
     <name>VideoShot</name>
     <message>
         <source>麦克风+系统</source>
-        <translation>マイク＋システム</translation>
+        <translation>すべての音</translation>
     </message>
     <message>
         <source>仅系统音频</source>

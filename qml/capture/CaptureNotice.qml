@@ -15,7 +15,8 @@ Window {
     property string filePath: ""
     property bool isFailure: false
 
-    readonly property int screenGap: 24
+    /// Leaves room for a palette at the edge of the screen.
+    readonly property int screenGap: 48
     readonly property int shownMs: 8000
 
     function openFolder() {
@@ -30,7 +31,7 @@ Window {
     width: 340
     height: texts.height + 32
     x: Screen.virtualX + Screen.width - width - screenGap
-    y: Screen.virtualY + Screen.height - height - screenGap - 40
+    y: Screen.virtualY + Screen.height - height - screenGap
     visible: true
 
     Rectangle {

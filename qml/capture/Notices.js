@@ -4,10 +4,15 @@
 
 let current = null;
 
-/// `properties` of CaptureNotice. A new notice takes the place of the former one.
-function show(properties) {
+function clear() {
     if (current)
         current.destroy();
+    current = null;
+}
+
+/// `properties` of CaptureNotice. A new notice takes the place of the former one.
+function show(properties) {
+    clear();
     const component = Qt.createComponent("qrc:/CaptureNotice.qml");
     current = component.createObject(null, properties);
     if (!current)

@@ -22,7 +22,7 @@ Window {
 
     function finish() {
         capturing = true;
-        shutter.region = region.selection;
+        shutter.area = region.selection;
         shutter.start();
     }
 
@@ -52,10 +52,12 @@ Window {
     title: qsTr("截图")
     flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
     color: "transparent"
+    visible: true
     visibility: Window.FullScreen
 
     Component.onCompleted: {
         console.log("截图组件 - 屏幕缩放比例:", devicePixelRatio);
+        Notices.clear();
         requestActivate();
     }
 
@@ -91,8 +93,8 @@ Window {
     // The screen is read once the window has been painted without its own marks.
     Timer {
         id: shutter
-        property rect region
+        property rect area
         interval: 100
-        onTriggered: root.capture(region)
+        onTriggered: root.capture(area)
     }
 }

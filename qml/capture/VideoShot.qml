@@ -125,11 +125,13 @@ Window {
     flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
            | (recording ? Qt.WindowTransparentForInput | Qt.WindowDoesNotAcceptFocus : 0)
     color: tranparentColor
+    visible: true
     visibility: Window.FullScreen
 
     Component.onCompleted: {
         console.log("VideoCaptureObject component completed in VideoShot.qml");
         console.log("屏幕缩放比例:", devicePixelRatio);
+        Notices.clear();
         requestActivate();
     }
     // Closed in the midst of a recording, which the recorder finishes by itself.
@@ -210,6 +212,8 @@ Window {
         FluComboBox {
             id: audioList
             width: 120
+            leftPadding: 9
+            rightPadding: 24
             model: root.audioChoices
             textRole: "text"
             visible: !root.recording

@@ -21,10 +21,16 @@ RowLayout {
         box.text = folder;
     }
 
+    /// Room for the label, so that rows below each other line up.
+    property real labelWidth: ownLabelWidth
+    readonly property real ownLabelWidth: label.implicitWidth
+
     spacing: 8
     onFolderChanged: show(folder)
 
     FluText {
+        id: label
+        Layout.preferredWidth: root.labelWidth
         text: qsTr("截图路径")
         font.pixelSize: 14
     }

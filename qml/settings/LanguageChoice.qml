@@ -35,10 +35,16 @@ RowLayout {
         offered = selectedCode() !== current;
     }
 
+    /// Room for the label, so that rows below each other line up.
+    property real labelWidth: ownLabelWidth
+    readonly property real ownLabelWidth: label.implicitWidth
+
     spacing: 8
     Component.onCompleted: Qt.callLater(fill) // qmllint disable
 
     FluText {
+        id: label
+        Layout.preferredWidth: root.labelWidth
         text: qsTr("语言设置")
         font.pixelSize: 14
     }

@@ -111,10 +111,15 @@ PanelWindow {
         ColumnLayout {
             id: column
 
+            readonly property real labelWidth: Math.ceil(
+                Math.max(folderChoice.ownLabelWidth, languageChoice.ownLabelWidth))
+
             width: scroll.width
             spacing: 15
 
             FolderChoice {
+                id: folderChoice
+                labelWidth: column.labelWidth
                 Layout.fillWidth: true
                 folder: root.hotKeys.screenSavePath ?? ""
                 onEdited: folder => root.saveKeyAndReload("screenSavePath", folder)
@@ -123,6 +128,7 @@ PanelWindow {
 
             LanguageChoice {
                 id: languageChoice
+                labelWidth: column.labelWidth
                 Layout.fillWidth: true
                 settings: settingClazz
                 onApply: code => root.applyLanguage(code)
