@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QProcess>
 #include <QString>
+#include <QtQmlIntegration>
 
 /// What the recorder says about the recording in hand: which file it writes, and what went wrong.
 ///
@@ -11,6 +12,7 @@
 class RecorderReport : public QObject
 {
     Q_OBJECT
+    QML_ANONYMOUS
     /// Absolute path of the video file, empty until the recorder has begun one.
     Q_PROPERTY(QString filePath READ filePath NOTIFY filePathChanged FINAL)
 

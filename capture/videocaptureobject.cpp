@@ -157,7 +157,10 @@ void VideoCaptureObject::onProcessFinished(int exitCode, QProcess::ExitStatus ex
         m_killTimer->stop();
         qDebug() << CaptureTexts::kFinishedInTime;
     }
-    becomeIdle();
+    // A crash has ended the recording already, as an error; its end is told all the same, as the
+    // last report on every recorder that ran.
+    setIdle();
+    emit recordingStopped();
     if (exitStatus == QProcess::CrashExit)
         emit recordingError(CaptureTexts::kErrorCrash);
 }
@@ -196,8 +199,6 @@ void VideoCaptureObject::setIdle()
     m_stopping = false;
 }
 
-/// A crash is reported by the process twice, as an error and as its end; whichever comes first ends
-/// the recording, so that listeners hear of it once.
 void VideoCaptureObject::becomeIdle()
 {
     if (isIdle())

@@ -29,7 +29,8 @@ public:
 
 signals:
     void recordingStarted();
-    /// Once for every recording that had started, however it ended.
+    /// The recording has ended, however it did. A recorder that crashes is reported twice: with the
+    /// error and with the end of its process.
     void recordingStopped();
     void recordingError(const QString &errorMessage);
 

@@ -77,7 +77,7 @@ T.ComboBox {
 
         FluFocusFrame {
             anchors.fill: parent
-            visible: root.activeFocus
+            visible: root.activeFocus && popup.formerFocus === null
         }
     }
 
@@ -91,6 +91,24 @@ T.ComboBox {
     }
 
     popup: T.Popup {
+        id: popup
+
+        /// What had the keyboard before the pointer opened the list.
+        property Item formerFocus: null
+
+        // An open list is left with Escape, whatever else the key would do.
+        onAboutToShow: {
+            if (root.activeFocus)
+                return;
+            formerFocus = root.Window.activeFocusItem;
+            root.forceActiveFocus(Qt.PopupFocusReason);
+        }
+        onClosed: {
+            if (formerFocus)
+                formerFocus.forceActiveFocus(Qt.PopupFocusReason);
+            formerFocus = null;
+        }
+
         y: root.height + 1
         width: root.width
         height: Math.min(implicitHeight, root.Window.window ? root.Window.window.height - 2 * margins : implicitHeight)

@@ -21,6 +21,13 @@
     </message>
 </context>
 <context>
+    <name>CaptureNotice</name>
+    <message>
+        <source>打开文件夹</source>
+        <translation>Open folder</translation>
+    </message>
+</context>
+<context>
     <name>CloseButton</name>
     <message>
         <source>关闭</source>
@@ -72,6 +79,51 @@
     <message>
         <source>Select All</source>
         <translation>Select all</translation>
+    </message>
+</context>
+<context>
+    <name>FolderChoice</name>
+    <message>
+        <source>截图路径</source>
+        <translation>Save folder</translation>
+    </message>
+    <message>
+        <source>截图保存路径</source>
+        <translation>Folder for screenshots and videos</translation>
+    </message>
+    <message>
+        <source>浏览</source>
+        <translation>Browse</translation>
+    </message>
+</context>
+<context>
+    <name>HotkeyPicker</name>
+    <message>
+        <source>按下键盘用于改变热键</source>
+        <translation>Press the new keys</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>重制</source>
+        <translation>Reset</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageChoice</name>
+    <message>
+        <source>语言设置</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>应用</source>
+        <translation>Apply</translation>
     </message>
 </context>
 <context>
@@ -295,6 +347,64 @@
     </message>
 </context>
 <context>
+    <name>RecorderMessages</name>
+    <message>
+        <source>选择的区域太小，请重新选择</source>
+        <translation>The region is too small. Select a larger one</translation>
+    </message>
+    <message>
+        <source>找不到可以录制的屏幕</source>
+        <translation>There is no screen that can be recorded</translation>
+    </message>
+    <message>
+        <source>没有找到 FFmpeg，请安装后再录制</source>
+        <translation>FFmpeg was not found. Install it to record</translation>
+    </message>
+    <message>
+        <source>无法写入录像文件，请在设置中另选文件夹</source>
+        <translation>The video cannot be written. Choose another folder in the settings</translation>
+    </message>
+    <message>
+        <source>磁盘已满，请清理后再录制。已录制的部分没有丢失</source>
+        <translation>The disk is full. Free some space before you record again. What was recorded is saved</translation>
+    </message>
+    <message>
+        <source>录制时间太短，没有内容</source>
+        <translation>The recording was too short to hold anything</translation>
+    </message>
+    <message>
+        <source>无法创建文件夹 %1</source>
+        <translation>The folder %1 cannot be created</translation>
+    </message>
+    <message>
+        <source>无法启动录制程序：%1</source>
+        <translation>The recorder cannot be started: %1</translation>
+    </message>
+    <message>
+        <source>录制程序意外结束。已录制的部分没有丢失</source>
+        <translation>The recorder ended unexpectedly. What was recorded is saved</translation>
+    </message>
+    <message>
+        <source>没有声音</source>
+        <translation>no sound</translation>
+    </message>
+    <message>
+        <source>没有麦克风</source>
+        <translation>no microphone</translation>
+    </message>
+    <message>
+        <source>没有系统声音</source>
+        <translation>no system sound</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingIndicator</name>
+    <message>
+        <source>● 录制中</source>
+        <translation>● Recording</translation>
+    </message>
+</context>
+<context>
     <name>ScreenCapture</name>
     <message>
         <source>没有设置截图文件夹，请在设置中选择</source>
@@ -323,6 +433,33 @@
     <message>
         <source>系统不允许读取屏幕，无法截图</source>
         <translation>No screenshot: the system does not let programs read the screen.</translation>
+    </message>
+</context>
+<context>
+    <name>Screenshot</name>
+    <message>
+        <source>截图失败</source>
+        <translation>Screenshot failed</translation>
+    </message>
+    <message>
+        <source>截图已保存</source>
+        <translation>Screenshot saved</translation>
+    </message>
+    <message>
+        <source>截图</source>
+        <translation>Screenshot</translation>
+    </message>
+    <message>
+        <source>打开目录</source>
+        <translation>Open folder</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>Done</translation>
     </message>
 </context>
 <context>
@@ -570,6 +707,49 @@
     </message>
 </context>
 <context>
+    <name>VideoShot</name>
+    <message>
+        <source>麦克风+系统</source>
+        <translation>Mic + system</translation>
+    </message>
+    <message>
+        <source>仅系统音频</source>
+        <translation>System only</translation>
+    </message>
+    <message>
+        <source>仅麦克风</source>
+        <translation>Mic only</translation>
+    </message>
+    <message>
+        <source>关闭音频</source>
+        <translation>No sound</translation>
+    </message>
+    <message>
+        <source>录制失败</source>
+        <translation>Recording failed</translation>
+    </message>
+    <message>
+        <source>录像已保存</source>
+        <translation>Video saved</translation>
+    </message>
+    <message>
+        <source>录屏</source>
+        <translation>Screen recording</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>Record</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>显示</source>
@@ -600,6 +780,61 @@
     <message>
         <source>选项</source>
         <translation>Choices</translation>
+    </message>
+</context>
+<context>
+    <name>settings</name>
+    <message>
+        <source>截屏热键</source>
+        <translation>Screenshot</translation>
+    </message>
+    <message>
+        <source>画笔热键</source>
+        <translation>Pen</translation>
+    </message>
+    <message>
+        <source>关闭画笔</source>
+        <translation>Stop drawing</translation>
+    </message>
+    <message>
+        <source>橡皮擦</source>
+        <translation>Eraser</translation>
+    </message>
+    <message>
+        <source>添加文字</source>
+        <translation>Add text</translation>
+    </message>
+    <message>
+        <source>清除绘制</source>
+        <translation>Clear drawing</translation>
+    </message>
+    <message>
+        <source>直线绘制</source>
+        <translation>Draw lines</translation>
+    </message>
+    <message>
+        <source>圆形绘制</source>
+        <translation>Draw circles</translation>
+    </message>
+    <message>
+        <source>设置无法保存</source>
+        <translation>The setting cannot be saved</translation>
+    </message>
+    <message>
+        <source>请检查磁盘空间和用户文件夹的权限</source>
+        <translation>Check the disk space and the permissions of your home folder</translation>
+    </message>
+    <message>
+        <source>选择的语言无效</source>
+        <translation>The language is not valid</translation>
+    </message>
+    <message>
+        <source>语言切换失败</source>
+        <translation>The language cannot be changed</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Settings</translation>
     </message>
 </context>
 </TS>

@@ -21,6 +21,13 @@
     </message>
 </context>
 <context>
+    <name>CaptureNotice</name>
+    <message>
+        <source>打开文件夹</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+</context>
+<context>
     <name>CloseButton</name>
     <message>
         <source>关闭</source>
@@ -72,6 +79,51 @@
     <message>
         <source>Select All</source>
         <translation>すべて選択</translation>
+    </message>
+</context>
+<context>
+    <name>FolderChoice</name>
+    <message>
+        <source>截图路径</source>
+        <translation>保存先</translation>
+    </message>
+    <message>
+        <source>截图保存路径</source>
+        <translation>スクリーンショットの保存先</translation>
+    </message>
+    <message>
+        <source>浏览</source>
+        <translation>参照</translation>
+    </message>
+</context>
+<context>
+    <name>HotkeyPicker</name>
+    <message>
+        <source>按下键盘用于改变热键</source>
+        <translation>新しいキーを押してください</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>重制</source>
+        <translation>リセット</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageChoice</name>
+    <message>
+        <source>语言设置</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>应用</source>
+        <translation>適用</translation>
     </message>
 </context>
 <context>
@@ -295,6 +347,64 @@
     </message>
 </context>
 <context>
+    <name>RecorderMessages</name>
+    <message>
+        <source>选择的区域太小，请重新选择</source>
+        <translation>範囲が小さすぎます。選び直してください</translation>
+    </message>
+    <message>
+        <source>找不到可以录制的屏幕</source>
+        <translation>録画できる画面がありません</translation>
+    </message>
+    <message>
+        <source>没有找到 FFmpeg，请安装后再录制</source>
+        <translation>FFmpeg が見つかりません。インストールしてから録画してください</translation>
+    </message>
+    <message>
+        <source>无法写入录像文件，请在设置中另选文件夹</source>
+        <translation>動画を書き込めません。設定で別のフォルダーを選んでください</translation>
+    </message>
+    <message>
+        <source>磁盘已满，请清理后再录制。已录制的部分没有丢失</source>
+        <translation>ディスクがいっぱいです。空きを作ってから録画してください。録画済みの部分は保存されています</translation>
+    </message>
+    <message>
+        <source>录制时间太短，没有内容</source>
+        <translation>録画が短すぎて内容がありません</translation>
+    </message>
+    <message>
+        <source>无法创建文件夹 %1</source>
+        <translation>フォルダー %1 を作成できません</translation>
+    </message>
+    <message>
+        <source>无法启动录制程序：%1</source>
+        <translation>録画プログラムを起動できません：%1</translation>
+    </message>
+    <message>
+        <source>录制程序意外结束。已录制的部分没有丢失</source>
+        <translation>録画プログラムが予期せず終了しました。録画済みの部分は保存されています</translation>
+    </message>
+    <message>
+        <source>没有声音</source>
+        <translation>音声なし</translation>
+    </message>
+    <message>
+        <source>没有麦克风</source>
+        <translation>マイクなし</translation>
+    </message>
+    <message>
+        <source>没有系统声音</source>
+        <translation>システム音なし</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingIndicator</name>
+    <message>
+        <source>● 录制中</source>
+        <translation>● 録画中</translation>
+    </message>
+</context>
+<context>
     <name>ScreenCapture</name>
     <message>
         <source>没有设置截图文件夹，请在设置中选择</source>
@@ -323,6 +433,33 @@
     <message>
         <source>系统不允许读取屏幕，无法截图</source>
         <translation>システムが画面の読み取りを許可していないため、スクリーンショットを撮れません。</translation>
+    </message>
+</context>
+<context>
+    <name>Screenshot</name>
+    <message>
+        <source>截图失败</source>
+        <translation>スクリーンショットに失敗しました</translation>
+    </message>
+    <message>
+        <source>截图已保存</source>
+        <translation>スクリーンショットを保存しました</translation>
+    </message>
+    <message>
+        <source>截图</source>
+        <translation>スクリーンショット</translation>
+    </message>
+    <message>
+        <source>打开目录</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>完了</translation>
     </message>
 </context>
 <context>
@@ -570,6 +707,49 @@
     </message>
 </context>
 <context>
+    <name>VideoShot</name>
+    <message>
+        <source>麦克风+系统</source>
+        <translation>すべての音</translation>
+    </message>
+    <message>
+        <source>仅系统音频</source>
+        <translation>システムのみ</translation>
+    </message>
+    <message>
+        <source>仅麦克风</source>
+        <translation>マイクのみ</translation>
+    </message>
+    <message>
+        <source>关闭音频</source>
+        <translation>音声なし</translation>
+    </message>
+    <message>
+        <source>录制失败</source>
+        <translation>録画に失敗しました</translation>
+    </message>
+    <message>
+        <source>录像已保存</source>
+        <translation>動画を保存しました</translation>
+    </message>
+    <message>
+        <source>录屏</source>
+        <translation>画面録画</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>録画停止</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>録画開始</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>显示</source>
@@ -600,6 +780,61 @@
     <message>
         <source>选项</source>
         <translation>選択肢</translation>
+    </message>
+</context>
+<context>
+    <name>settings</name>
+    <message>
+        <source>截屏热键</source>
+        <translation>スクリーンショット</translation>
+    </message>
+    <message>
+        <source>画笔热键</source>
+        <translation>ペン</translation>
+    </message>
+    <message>
+        <source>关闭画笔</source>
+        <translation>描画を終了</translation>
+    </message>
+    <message>
+        <source>橡皮擦</source>
+        <translation>消しゴム</translation>
+    </message>
+    <message>
+        <source>添加文字</source>
+        <translation>文字を追加</translation>
+    </message>
+    <message>
+        <source>清除绘制</source>
+        <translation>描画を消去</translation>
+    </message>
+    <message>
+        <source>直线绘制</source>
+        <translation>直線を描く</translation>
+    </message>
+    <message>
+        <source>圆形绘制</source>
+        <translation>円を描く</translation>
+    </message>
+    <message>
+        <source>设置无法保存</source>
+        <translation>設定を保存できません</translation>
+    </message>
+    <message>
+        <source>请检查磁盘空间和用户文件夹的权限</source>
+        <translation>ディスクの空きとホームフォルダーの権限を確認してください</translation>
+    </message>
+    <message>
+        <source>选择的语言无效</source>
+        <translation>選択した言語は無効です</translation>
+    </message>
+    <message>
+        <source>语言切换失败</source>
+        <translation>言語を変更できません</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>設定</translation>
     </message>
 </context>
 </TS>

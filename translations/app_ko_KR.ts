@@ -21,6 +21,13 @@
     </message>
 </context>
 <context>
+    <name>CaptureNotice</name>
+    <message>
+        <source>打开文件夹</source>
+        <translation>폴더 열기</translation>
+    </message>
+</context>
+<context>
     <name>CloseButton</name>
     <message>
         <source>关闭</source>
@@ -72,6 +79,51 @@
     <message>
         <source>Select All</source>
         <translation>모두 선택</translation>
+    </message>
+</context>
+<context>
+    <name>FolderChoice</name>
+    <message>
+        <source>截图路径</source>
+        <translation>저장 폴더</translation>
+    </message>
+    <message>
+        <source>截图保存路径</source>
+        <translation>스크린샷 저장 폴더</translation>
+    </message>
+    <message>
+        <source>浏览</source>
+        <translation>찾아보기</translation>
+    </message>
+</context>
+<context>
+    <name>HotkeyPicker</name>
+    <message>
+        <source>按下键盘用于改变热键</source>
+        <translation>새 단축키를 누르세요</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>重制</source>
+        <translation>초기화</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageChoice</name>
+    <message>
+        <source>语言设置</source>
+        <translation>언어</translation>
+    </message>
+    <message>
+        <source>应用</source>
+        <translation>적용</translation>
     </message>
 </context>
 <context>
@@ -295,6 +347,64 @@
     </message>
 </context>
 <context>
+    <name>RecorderMessages</name>
+    <message>
+        <source>选择的区域太小，请重新选择</source>
+        <translation>영역이 너무 작습니다. 다시 선택하세요</translation>
+    </message>
+    <message>
+        <source>找不到可以录制的屏幕</source>
+        <translation>녹화할 수 있는 화면이 없습니다</translation>
+    </message>
+    <message>
+        <source>没有找到 FFmpeg，请安装后再录制</source>
+        <translation>FFmpeg를 찾을 수 없습니다. 설치한 후 녹화하세요</translation>
+    </message>
+    <message>
+        <source>无法写入录像文件，请在设置中另选文件夹</source>
+        <translation>동영상을 쓸 수 없습니다. 설정에서 다른 폴더를 선택하세요</translation>
+    </message>
+    <message>
+        <source>磁盘已满，请清理后再录制。已录制的部分没有丢失</source>
+        <translation>디스크가 가득 찼습니다. 공간을 확보한 후 다시 녹화하세요. 녹화된 부분은 저장되었습니다</translation>
+    </message>
+    <message>
+        <source>录制时间太短，没有内容</source>
+        <translation>녹화 시간이 너무 짧아 내용이 없습니다</translation>
+    </message>
+    <message>
+        <source>无法创建文件夹 %1</source>
+        <translation>폴더 %1을(를) 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>无法启动录制程序：%1</source>
+        <translation>녹화 프로그램을 시작할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>录制程序意外结束。已录制的部分没有丢失</source>
+        <translation>녹화 프로그램이 예기치 않게 종료되었습니다. 녹화된 부분은 저장되었습니다</translation>
+    </message>
+    <message>
+        <source>没有声音</source>
+        <translation>소리 없음</translation>
+    </message>
+    <message>
+        <source>没有麦克风</source>
+        <translation>마이크 없음</translation>
+    </message>
+    <message>
+        <source>没有系统声音</source>
+        <translation>시스템 소리 없음</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingIndicator</name>
+    <message>
+        <source>● 录制中</source>
+        <translation>● 녹화 중</translation>
+    </message>
+</context>
+<context>
     <name>ScreenCapture</name>
     <message>
         <source>没有设置截图文件夹，请在设置中选择</source>
@@ -323,6 +433,33 @@
     <message>
         <source>系统不允许读取屏幕，无法截图</source>
         <translation>시스템에서 화면 읽기를 허용하지 않아 스크린샷을 찍지 못했습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Screenshot</name>
+    <message>
+        <source>截图失败</source>
+        <translation>스크린샷 실패</translation>
+    </message>
+    <message>
+        <source>截图已保存</source>
+        <translation>스크린샷이 저장되었습니다</translation>
+    </message>
+    <message>
+        <source>截图</source>
+        <translation>스크린샷</translation>
+    </message>
+    <message>
+        <source>打开目录</source>
+        <translation>폴더 열기</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>완료</translation>
     </message>
 </context>
 <context>
@@ -570,6 +707,49 @@
     </message>
 </context>
 <context>
+    <name>VideoShot</name>
+    <message>
+        <source>麦克风+系统</source>
+        <translation>마이크+시스템</translation>
+    </message>
+    <message>
+        <source>仅系统音频</source>
+        <translation>시스템만</translation>
+    </message>
+    <message>
+        <source>仅麦克风</source>
+        <translation>마이크만</translation>
+    </message>
+    <message>
+        <source>关闭音频</source>
+        <translation>소리 끄기</translation>
+    </message>
+    <message>
+        <source>录制失败</source>
+        <translation>녹화 실패</translation>
+    </message>
+    <message>
+        <source>录像已保存</source>
+        <translation>동영상이 저장되었습니다</translation>
+    </message>
+    <message>
+        <source>录屏</source>
+        <translation>화면 녹화</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>녹화 중지</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>녹화 시작</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>显示</source>
@@ -600,6 +780,61 @@
     <message>
         <source>选项</source>
         <translation>선택 항목</translation>
+    </message>
+</context>
+<context>
+    <name>settings</name>
+    <message>
+        <source>截屏热键</source>
+        <translation>스크린샷</translation>
+    </message>
+    <message>
+        <source>画笔热键</source>
+        <translation>펜</translation>
+    </message>
+    <message>
+        <source>关闭画笔</source>
+        <translation>그리기 종료</translation>
+    </message>
+    <message>
+        <source>橡皮擦</source>
+        <translation>지우개</translation>
+    </message>
+    <message>
+        <source>添加文字</source>
+        <translation>텍스트 추가</translation>
+    </message>
+    <message>
+        <source>清除绘制</source>
+        <translation>그림 지우기</translation>
+    </message>
+    <message>
+        <source>直线绘制</source>
+        <translation>직선 그리기</translation>
+    </message>
+    <message>
+        <source>圆形绘制</source>
+        <translation>원 그리기</translation>
+    </message>
+    <message>
+        <source>设置无法保存</source>
+        <translation>설정을 저장할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>请检查磁盘空间和用户文件夹的权限</source>
+        <translation>디스크 공간과 홈 폴더의 권한을 확인하세요</translation>
+    </message>
+    <message>
+        <source>选择的语言无效</source>
+        <translation>선택한 언어가 올바르지 않습니다</translation>
+    </message>
+    <message>
+        <source>语言切换失败</source>
+        <translation>언어를 변경할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>설정</translation>
     </message>
 </context>
 </TS>

@@ -21,6 +21,13 @@
     </message>
 </context>
 <context>
+    <name>CaptureNotice</name>
+    <message>
+        <source>打开文件夹</source>
+        <translation>打开文件夹</translation>
+    </message>
+</context>
+<context>
     <name>CloseButton</name>
     <message>
         <source>关闭</source>
@@ -72,6 +79,51 @@
     <message>
         <source>Select All</source>
         <translation>全选</translation>
+    </message>
+</context>
+<context>
+    <name>FolderChoice</name>
+    <message>
+        <source>截图路径</source>
+        <translation>截图路径</translation>
+    </message>
+    <message>
+        <source>截图保存路径</source>
+        <translation>截图保存路径</translation>
+    </message>
+    <message>
+        <source>浏览</source>
+        <translation>浏览</translation>
+    </message>
+</context>
+<context>
+    <name>HotkeyPicker</name>
+    <message>
+        <source>按下键盘用于改变热键</source>
+        <translation>按下键盘用于改变热键</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>重制</source>
+        <translation>重制</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageChoice</name>
+    <message>
+        <source>语言设置</source>
+        <translation>语言设置</translation>
+    </message>
+    <message>
+        <source>应用</source>
+        <translation>应用</translation>
     </message>
 </context>
 <context>
@@ -295,6 +347,64 @@
     </message>
 </context>
 <context>
+    <name>RecorderMessages</name>
+    <message>
+        <source>选择的区域太小，请重新选择</source>
+        <translation>选择的区域太小，请重新选择</translation>
+    </message>
+    <message>
+        <source>找不到可以录制的屏幕</source>
+        <translation>找不到可以录制的屏幕</translation>
+    </message>
+    <message>
+        <source>没有找到 FFmpeg，请安装后再录制</source>
+        <translation>没有找到 FFmpeg，请安装后再录制</translation>
+    </message>
+    <message>
+        <source>无法写入录像文件，请在设置中另选文件夹</source>
+        <translation>无法写入录像文件，请在设置中另选文件夹</translation>
+    </message>
+    <message>
+        <source>磁盘已满，请清理后再录制。已录制的部分没有丢失</source>
+        <translation>磁盘已满，请清理后再录制。已录制的部分没有丢失</translation>
+    </message>
+    <message>
+        <source>录制时间太短，没有内容</source>
+        <translation>录制时间太短，没有内容</translation>
+    </message>
+    <message>
+        <source>无法创建文件夹 %1</source>
+        <translation>无法创建文件夹 %1</translation>
+    </message>
+    <message>
+        <source>无法启动录制程序：%1</source>
+        <translation>无法启动录制程序：%1</translation>
+    </message>
+    <message>
+        <source>录制程序意外结束。已录制的部分没有丢失</source>
+        <translation>录制程序意外结束。已录制的部分没有丢失</translation>
+    </message>
+    <message>
+        <source>没有声音</source>
+        <translation>没有声音</translation>
+    </message>
+    <message>
+        <source>没有麦克风</source>
+        <translation>没有麦克风</translation>
+    </message>
+    <message>
+        <source>没有系统声音</source>
+        <translation>没有系统声音</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingIndicator</name>
+    <message>
+        <source>● 录制中</source>
+        <translation>● 录制中</translation>
+    </message>
+</context>
+<context>
     <name>ScreenCapture</name>
     <message>
         <source>没有设置截图文件夹，请在设置中选择</source>
@@ -323,6 +433,33 @@
     <message>
         <source>系统不允许读取屏幕，无法截图</source>
         <translation>系统不允许读取屏幕，无法截图</translation>
+    </message>
+</context>
+<context>
+    <name>Screenshot</name>
+    <message>
+        <source>截图失败</source>
+        <translation>截图失败</translation>
+    </message>
+    <message>
+        <source>截图已保存</source>
+        <translation>截图已保存</translation>
+    </message>
+    <message>
+        <source>截图</source>
+        <translation>截图</translation>
+    </message>
+    <message>
+        <source>打开目录</source>
+        <translation>打开目录</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>完成</translation>
     </message>
 </context>
 <context>
@@ -570,6 +707,49 @@
     </message>
 </context>
 <context>
+    <name>VideoShot</name>
+    <message>
+        <source>麦克风+系统</source>
+        <translation>麦克风+系统</translation>
+    </message>
+    <message>
+        <source>仅系统音频</source>
+        <translation>仅系统音频</translation>
+    </message>
+    <message>
+        <source>仅麦克风</source>
+        <translation>仅麦克风</translation>
+    </message>
+    <message>
+        <source>关闭音频</source>
+        <translation>关闭音频</translation>
+    </message>
+    <message>
+        <source>录制失败</source>
+        <translation>录制失败</translation>
+    </message>
+    <message>
+        <source>录像已保存</source>
+        <translation>录像已保存</translation>
+    </message>
+    <message>
+        <source>录屏</source>
+        <translation>录屏</translation>
+    </message>
+    <message>
+        <source>退出</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>停止录制</source>
+        <translation>停止录制</translation>
+    </message>
+    <message>
+        <source>开始录制</source>
+        <translation>开始录制</translation>
+    </message>
+</context>
+<context>
     <name>main</name>
     <message>
         <source>显示</source>
@@ -600,6 +780,61 @@
     <message>
         <source>选项</source>
         <translation>选项</translation>
+    </message>
+</context>
+<context>
+    <name>settings</name>
+    <message>
+        <source>截屏热键</source>
+        <translation>截屏热键</translation>
+    </message>
+    <message>
+        <source>画笔热键</source>
+        <translation>画笔热键</translation>
+    </message>
+    <message>
+        <source>关闭画笔</source>
+        <translation>关闭画笔</translation>
+    </message>
+    <message>
+        <source>橡皮擦</source>
+        <translation>橡皮擦</translation>
+    </message>
+    <message>
+        <source>添加文字</source>
+        <translation>添加文字</translation>
+    </message>
+    <message>
+        <source>清除绘制</source>
+        <translation>清除绘制</translation>
+    </message>
+    <message>
+        <source>直线绘制</source>
+        <translation>直线绘制</translation>
+    </message>
+    <message>
+        <source>圆形绘制</source>
+        <translation>圆形绘制</translation>
+    </message>
+    <message>
+        <source>设置无法保存</source>
+        <translation>设置无法保存</translation>
+    </message>
+    <message>
+        <source>请检查磁盘空间和用户文件夹的权限</source>
+        <translation>请检查磁盘空间和用户文件夹的权限</translation>
+    </message>
+    <message>
+        <source>选择的语言无效</source>
+        <translation>选择的语言无效</translation>
+    </message>
+    <message>
+        <source>语言切换失败</source>
+        <translation>语言切换失败</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>设置</translation>
     </message>
 </context>
 </TS>

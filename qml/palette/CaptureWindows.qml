@@ -14,6 +14,8 @@ Item {
     property string recordIcon: idleIcon
     readonly property bool isRecordIcon: recordIcon === idleIcon
     readonly property var panel: recordLoader.item
+    /// How long the recording has run; empty while none does.
+    readonly property string elapsed: panel?.elapsed ?? ""
 
     /// On the next turn of the event loop: a loader must have let go of its former window first,
     /// and a window must not be deleted under its own signal.
@@ -28,10 +30,10 @@ Item {
 
     function toggleRecording() {
         if (!isRecordIcon) {
-            if (panel)
-                panel.stopRecord();
-            recordLoader.source = "";
             recordIcon = idleIcon;
+            // A panel that still finishes its file closes by itself.
+            if (!panel || !panel.stopRecord())
+                recordLoader.source = "";
             return;
         }
         recordIcon = "qrc:/icons/stop.png";

@@ -65,19 +65,27 @@ Rectangle {
     Keys.onReturnPressed: root.trigger()
     Keys.onEnterPressed: root.trigger()
 
-    SharpImage {
-        id: image
-        boxSide: Math.min(root.width, root.height) * root.miniSize
-        picture: root.img_src
-        opacity: root.enableEvent ? Theme.disabledOpacity : 1
+    Item {
+        width: parent.width
+        height: parent.height - (root.textVisible ? caption.height - 1 : 0)
+
+        SharpImage {
+            id: image
+            boxSide: Math.min(root.width * root.miniSize, root.height * root.miniSize, parent.height)
+            picture: root.img_src
+            opacity: root.enableEvent ? Theme.disabledOpacity : 1
+        }
     }
 
     Text {
+        id: caption
         anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom }
         visible: root.textVisible
         text: root.btn_txt
         color: Theme.ink
         font { bold: true; pointSize: 5 }
+        // Letters this small need hinting.
+        renderType: Text.NativeRendering
     }
 
     Image {

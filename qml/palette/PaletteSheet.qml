@@ -121,6 +121,8 @@ Item {
             flyouts: root.flyouts
             img_src: root.palette.captures.recordIcon
             miniSize: 0.7
+            btn_txt: root.palette.captures.elapsed
+            textVisible: btn_txt !== ""
             toolTipText: root.palette.captures.isRecordIcon ? qsTr("录屏") : qsTr("停止录屏")
             onClickedLeft: root.palette.captures.toggleRecording()
         }

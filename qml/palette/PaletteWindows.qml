@@ -54,6 +54,8 @@ Item {
             return;
         palette.settingWindow = window;
         window.changeHotKey.connect(palette.onHotKeyChanged);
+        // Its first announcement came while it was made.
+        palette.onHotKeyChanged();
         window.x = palette.x + (palette.rightMargin <= 350 ? -360 : 60);
         window.raise();
         palette.raise();

@@ -10,6 +10,8 @@ Window {
     default property alias content: body.data
 
     readonly property int stripHeight: 40
+    property int contentMargin: 24
+    property int closeMargin: 8
 
     /// The user closes the window.
     signal dismissed()
@@ -41,7 +43,7 @@ Window {
 
         CloseButton {
             id: closeButton
-            anchors { right: parent.right; top: parent.top; margins: 8 }
+            anchors { right: parent.right; top: parent.top; margins: root.closeMargin }
             onClicked: root.dismissed()
         }
 
@@ -50,9 +52,9 @@ Window {
             anchors {
                 fill: parent
                 topMargin: root.stripHeight
-                leftMargin: 24
-                rightMargin: 24
-                bottomMargin: 24
+                leftMargin: root.contentMargin
+                rightMargin: root.contentMargin
+                bottomMargin: root.contentMargin
             }
         }
     }

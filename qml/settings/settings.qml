@@ -1,0 +1,154 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import QtQuick.Window
+import Cpp.MyComponents
+import FluentUI
+
+/// The settings window. Every change is stored at once and announced with `changeHotKey`.
+PanelWindow {
+    id: root
+
+    property var hotKeys: ({
+        screenSavePath: "",
+        screenKey: "Ctrl+P",
+        penKey: "Ctrl+E",
+        closeDrawKey: "Ctrl+Q",
+        eraseKey: "Ctrl+D",
+        textKey: "Ctrl+T",
+        clearKey: "Ctrl+K",
+        circleKey: "Ctrl+O",
+        lineKey: "Ctrl+L"
+    })
+
+    signal changeHotKey()
+
+    readonly property var pickers: [
+        { text: qsTr("截屏热键"), key: "screenKey", fallback: "Ctrl+P" },
+        { text: qsTr("画笔热键"), key: "penKey", fallback: "Ctrl+E" },
+        { text: qsTr("关闭画笔"), key: "closeDrawKey", fallback: "Ctrl+Q" },
+        { text: qsTr("橡皮擦"), key: "eraseKey", fallback: "Ctrl+D" },
+        { text: qsTr("添加文字"), key: "textKey", fallback: "Ctrl+T" },
+        { text: qsTr("清除绘制"), key: "clearKey", fallback: "Ctrl+K" },
+        { text: qsTr("直线绘制"), key: "lineKey", fallback: "Ctrl+L" },
+        { text: qsTr("圆形绘制"), key: "circleKey", fallback: "Ctrl+O" }
+    ]
+    readonly property int messageMs: 4000
+
+    function loadSettings() {
+        hotKeys = JSON.parse(JSON.stringify(settingClazz.getAllSettings()));
+        console.log("加载设置成功:", JSON.stringify(hotKeys));
+        changeHotKey();
+    }
+
+    function saveKeyAndReload(key, value) {
+        if (!settingClazz.addSetting(key, value))
+            infoBar.showError(qsTr("设置无法保存"), messageMs, qsTr("请检查磁盘空间和用户文件夹的权限"));
+        console.log("保存设置:", key, value);
+        loadSettings();
+    }
+
+    function browse() {
+        const folder = settingClazz.selectSaveDirectory(hotKeys.screenSavePath ?? "");
+        if (folder !== "")
+            loadSettings();
+    }
+
+    function applyLanguage(code) {
+        if (code === "") {
+            infoBar.showError(qsTr("选择的语言无效"), messageMs);
+        } else if (settingClazz.setLanguage(code)) {
+            languageChoice.offered = false;
+            settingClazz.restartApplication();
+        } else {
+            infoBar.showError(qsTr("语言切换失败"), messageMs);
+        }
+    }
+
+    title: qsTr("设置")
+    width: 400
+    height: 600
+    contentMargin: 15
+    closeMargin: 5
+    visible: true
+    x: Screen.virtualX + Math.round((Screen.width - width) / 2)
+    y: Screen.virtualY + Math.round((Screen.height - height) / 2)
+
+    onDismissed: destroy()
+    Component.onCompleted: {
+        loadSettings();
+        requestActivate();
+        raise();
+    }
+
+    SettingsClazz { id: settingClazz }
+
+    FluInfoBar {
+        id: infoBar
+        root: scroll
+    }
+
+    PanelText {
+        y: -root.stripHeight + Math.round((root.stripHeight - height) / 2)
+        text: root.title
+        font { pixelSize: 15; weight: Font.DemiBold }
+    }
+
+    Flickable {
+        id: scroll
+
+        anchors.fill: parent
+        contentWidth: width
+        contentHeight: column.implicitHeight
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        T.ScrollBar.vertical: PanelScrollBar {
+            parent: scroll.parent
+            x: scroll.width + Math.round((root.contentMargin - width) / 2)
+            height: scroll.height
+        }
+
+        ColumnLayout {
+            id: column
+
+            readonly property real labelWidth: Math.ceil(
+                Math.max(folderChoice.ownLabelWidth, languageChoice.ownLabelWidth))
+
+            width: scroll.width
+            spacing: 15
+
+            FolderChoice {
+                id: folderChoice
+                labelWidth: column.labelWidth
+                Layout.fillWidth: true
+                folder: root.hotKeys.screenSavePath ?? ""
+                onEdited: folder => root.saveKeyAndReload("screenSavePath", folder)
+                onBrowse: root.browse()
+            }
+
+            LanguageChoice {
+                id: languageChoice
+                labelWidth: column.labelWidth
+                Layout.fillWidth: true
+                settings: settingClazz
+                onApply: code => root.applyLanguage(code)
+            }
+
+            Repeater {
+                model: root.pickers
+
+                HotkeyPicker {
+                    required property var modelData
+
+                    Layout.fillWidth: true
+                    Layout.preferredHeight: 40
+                    text: modelData.text
+                    settingsKey: modelData.key
+                    fallback: modelData.fallback
+                    hotKeys: root.hotKeys // qmllint disable unqualified
+                    onChosen: sequence => root.saveKeyAndReload(settingsKey, sequence)
+                }
+            }
+        }
+    }
+}
