@@ -2,6 +2,8 @@
 
 #include "recorder/recorderprotocol.h"
 
+#include <QFile>
+
 namespace
 {
 
@@ -67,6 +69,9 @@ void RecorderReport::takeErrorLine(const QString &line)
         return;
     }
     m_errorTold = true;
+    // The recorder removes a file that has come to nothing.
+    if (!QFile::exists(m_filePath))
+        setFilePath(QString());
     emit error(code, text);
 }
 

@@ -31,7 +31,6 @@ inline constexpr QLatin1StringView kNothingRecorded("nothing-recorded");
 inline constexpr QLatin1StringView kNoSoundServer("no-sound-server");
 inline constexpr QLatin1StringView kNoMicrophone("no-microphone");
 inline constexpr QLatin1StringView kNoSystemSound("no-system-sound");
-inline constexpr QLatin1StringView kWaylandSession("wayland-session");
 } // namespace Code
 
 } // namespace RecorderProtocol

@@ -123,11 +123,10 @@ void Recording::onEncoderFinished(int exitCode, QProcess::ExitStatus status)
         && (exitCode == 0 || exitCode == kTerminatedExitCode)
         && !EncoderFailure::tellsFullDisk(words);
     const bool succeeded = m_stopRequested && endedWell && !m_file.isEmpty();
-    if (!succeeded) {
-        const EncoderFailure failure = failureOf(words);
+    const EncoderFailure failure = succeeded ? EncoderFailure() : failureOf(words);
+    m_file.discardIfEmpty(); // first, as whoever hears of the failure looks for the file
+    if (!succeeded)
         Notes::error(failure.code, failure.text);
-    }
-    m_file.discardIfEmpty();
     emit finished(succeeded);
 }
 

@@ -28,6 +28,17 @@
     </message>
 </context>
 <context>
+    <name>CaptureOutcome</name>
+    <message>
+        <source>截图失败</source>
+        <translation>Screenshot failed</translation>
+    </message>
+    <message>
+        <source>截图已保存</source>
+        <translation>Screenshot saved</translation>
+    </message>
+</context>
+<context>
     <name>CloseButton</name>
     <message>
         <source>关闭</source>
@@ -396,6 +407,10 @@
         <source>没有系统声音</source>
         <translation>no system sound</translation>
     </message>
+    <message>
+        <source>录制失败：%1</source>
+        <translation>Recording failed: %1</translation>
+    </message>
 </context>
 <context>
     <name>RecordingIndicator</name>
@@ -437,14 +452,6 @@
 </context>
 <context>
     <name>Screenshot</name>
-    <message>
-        <source>截图失败</source>
-        <translation>Screenshot failed</translation>
-    </message>
-    <message>
-        <source>截图已保存</source>
-        <translation>Screenshot saved</translation>
-    </message>
     <message>
         <source>截图</source>
         <translation>Screenshot</translation>

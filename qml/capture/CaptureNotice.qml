@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Window
 import FluentUI
 import "FileUrls.js" as FileUrls
+import "Notices.js" as Notices
 import "Theme.js" as Theme
 
 /// Tells in a corner of the screen what became of a capture. A click opens the file's folder.
@@ -23,6 +24,8 @@ Window {
         Qt.openUrlExternally(FileUrls.ofFolder(FileUrls.folderOf(filePath)));
         destroy();
     }
+
+    Component.onDestruction: Notices.forget(root)
 
     screen: Application.screens[0]
     title: heading
@@ -49,12 +52,16 @@ Window {
             onClicked: root.openFolder()
         }
 
-        FluIcon {
+        Item {
             id: mark
-            anchors { left: parent.left; leftMargin: 16; top: parent.top; topMargin: 16 }
-            iconSource: root.isFailure ? FluentIcons.StatusErrorFull : FluentIcons.CompletedSolid
-            iconSize: 20
-            color: root.isFailure ? Theme.danger : "#0f7b0f"
+            anchors { left: parent.left; leftMargin: 14; top: parent.top; topMargin: 14 }
+            width: 24
+            height: 24
+
+            SharpImage {
+                boxSide: mark.width
+                picture: root.isFailure ? "qrc:/icons/failed.png" : "qrc:/icons/done.png"
+            }
         }
 
         Column {

@@ -4,10 +4,19 @@
 
 let current = null;
 
+/// Returns whether a notice was shown until now.
 function clear() {
-    if (current)
+    const shown = current !== null;
+    if (shown)
         current.destroy();
     current = null;
+    return shown;
+}
+
+/// A notice that goes by itself says so: what is left of it must not be touched again.
+function forget(notice) {
+    if (current === notice)
+        current = null;
 }
 
 /// `properties` of CaptureNotice. A new notice takes the place of the former one.

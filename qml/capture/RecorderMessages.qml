@@ -18,7 +18,7 @@ QtObject {
         case "nothing-recorded":
             return qsTr("录制时间太短，没有内容");
         default:
-            return text;
+            return qsTr("录制失败：%1").arg(text);
         }
     }
 

@@ -61,10 +61,16 @@ Item {
         last = Qt.point(frame.x + frame.width, frame.y + frame.height);
     }
 
+    /// Edges lie on whole logical pixels: rounded one by one, position and size of a region at the
+    /// edge of the screen could reach beyond it.
+    function snapped(point) {
+        return Qt.point(Math.round(Math.max(0, Math.min(point.x, width))),
+                        Math.round(Math.max(0, Math.min(point.y, height))));
+    }
+
     function resize(h, v, point) {
         touched = true;
-        const x = Math.max(0, Math.min(point.x, width));
-        const y = Math.max(0, Math.min(point.y, height));
+        const { x, y } = snapped(point);
         if (h !== 0) {
             const opposite = h < 0 ? last.x : first.x;
             frame.x = Math.min(x, opposite);
@@ -87,14 +93,13 @@ Item {
         anchors.fill: parent
         cursorShape: Qt.CrossCursor
         onPressed: mouse => {
-            start = Qt.point(mouse.x, mouse.y);
+            start = root.snapped(Qt.point(mouse.x, mouse.y));
             root.touched = true;
             root.drawing = true;
-            root.span(mouse.x, mouse.y, 0, 0);
+            root.span(start.x, start.y, 0, 0);
         }
         onPositionChanged: mouse => {
-            const x = Math.max(0, Math.min(mouse.x, width));
-            const y = Math.max(0, Math.min(mouse.y, height));
+            const { x, y } = root.snapped(Qt.point(mouse.x, mouse.y));
             root.span(Math.min(start.x, x), Math.min(start.y, y),
                       Math.abs(x - start.x), Math.abs(y - start.y));
         }
@@ -146,7 +151,10 @@ Item {
             }
             onPressed: root.touched = true
             onPositionChanged: root.storeCorners()
-            onReleased: root.storeCorners()
+            onReleased: {
+                root.span(Math.round(frame.x), Math.round(frame.y), frame.width, frame.height);
+                root.storeCorners();
+            }
         }
 
         Repeater {

@@ -38,14 +38,8 @@ Window {
         settingClazz.captureScreen(Math.round(area.x), Math.round(area.y),
                                    Math.round(area.width), Math.round(area.height));
         const result = settingClazz.captureResult();
-        const failed = result.message !== undefined && result.message !== "";
-        Notices.show({
-            heading: failed ? qsTr("截图失败") : qsTr("截图已保存"),
-            detail: result.message ?? "",
-            filePath: result.path ?? "",
-            isFailure: failed
-        });
         close();
+        outcome.tell(result);
     }
 
     screen: Application.screens[0]
@@ -62,6 +56,7 @@ Window {
     }
 
     SettingsClazz { id: settingClazz }
+    CaptureOutcome { id: outcome }
 
     RegionSelector {
         id: region

@@ -7,7 +7,6 @@ FluObject {
 
     /// The palette window.
     required property var palette
-    required property var settings
 
     readonly property var tools: palette.tools
 
@@ -27,7 +26,7 @@ FluObject {
         sequence: root.keysOf("screenKey", "Ctrl+P")
         onActivated: {
             if (root.palette.hotKeys.screenSavePath)
-                root.settings.captureScreen();
+                root.palette.shutter.capture();
         }
     }
     FluHotkey {

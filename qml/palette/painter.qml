@@ -40,6 +40,7 @@ Window {
     readonly property alias effects: effects
     readonly property alias overlayLink: overlayLink
     readonly property alias captures: captures
+    readonly property alias shutter: screenShutter
     readonly property alias windows: windows
     readonly property alias tip: tip
 
@@ -123,7 +124,7 @@ Window {
     EffectController { id: effects; palette: root }
     OverlayLink { id: overlayLink; palette: root }
     PalettePlacement { id: placement; palette: root; settings: settingClazz }
-    PaletteHotkeys { palette: root; settings: settingClazz }
+    PaletteHotkeys { palette: root }
     ToolNames { id: toolNames }
     PaletteWindows {
         id: windows
@@ -138,6 +139,7 @@ Window {
     }
 
     FlyoutHost { id: flyouts; palette: root; toolNames: toolNames }
+    ScreenShutter { id: screenShutter; settings: settingClazz }
     CaptureWindows { id: captures; palette: root; videoCapture: videoCaptureObj }
 
     ButtonToolTip { id: tip; palette: root; flyouts: flyouts }

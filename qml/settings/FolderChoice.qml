@@ -13,8 +13,10 @@ RowLayout {
     signal browse()
 
     function finish() {
-        if (box.text !== folder)
-            edited(box.text);
+        if (box.text === folder)
+            return;
+        edited(box.text);
+        show(folder); // what is stored may be another folder than the one typed
     }
 
     function show(folder) {
@@ -54,6 +56,9 @@ RowLayout {
     FluButton {
         Layout.preferredHeight: box.height
         text: qsTr("浏览")
-        onClicked: root.browse()
+        onClicked: {
+            root.finish();
+            root.browse();
+        }
     }
 }

@@ -50,8 +50,10 @@ PanelWindow {
 
     function browse() {
         const folder = settingClazz.selectSaveDirectory(hotKeys.screenSavePath ?? "");
-        if (folder !== "")
+        if (folder !== "") {
             loadSettings();
+            folderChoice.show(folder);
+        }
     }
 
     function applyLanguage(code) {
@@ -74,7 +76,10 @@ PanelWindow {
     x: Screen.virtualX + Math.round((Screen.width - width) / 2)
     y: Screen.virtualY + Math.round((Screen.height - height) / 2)
 
-    onDismissed: destroy()
+    onDismissed: {
+        folderChoice.finish(); // a click on the cross leaves the focus, and the edit, in the box
+        destroy();
+    }
     Component.onCompleted: {
         loadSettings();
         requestActivate();

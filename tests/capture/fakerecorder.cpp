@@ -59,6 +59,7 @@ int main(int argc, char **argv)
     if (mode == "crashes")
         std::abort();
     if (mode == "explains") {
+        std::ofstream(std::string(argv[5]) + "record.mp4") << "a part";
         std::fputs("warning[no-microphone]: There is no microphone.\nerror[disk-full]: Th", stderr);
         std::fputs("e disk is full.\n", stderr);
         std::printf("file: %srecord.mp4\n", argv[5]);

@@ -213,7 +213,8 @@ void TestRecorder::losesAtMostASecondWhenKilled()
     const VideoFacts facts = VideoFacts::of(path);
     QVERIFY(facts.plays);
     QVERIFY2(facts.seconds > seconds - 1, qPrintable(QString::number(facts.seconds)));
-    QVERIFY(VideoFacts::toneShare(path, kToneHertz) > 0.9);
+    // A busy machine tears small gaps; another sound, or noise, would be far below.
+    QVERIFY(VideoFacts::toneShare(path, kToneHertz) > 0.7);
 }
 
 void TestRecorder::recordsWithoutASoundServer()
