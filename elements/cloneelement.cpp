@@ -27,8 +27,10 @@ ElementPtr copyOfKind(const CircleElement &source)
 
 ElementPtr copyOfKind(const TextElement &source)
 {
-    return std::make_unique<TextElement>(source.position, source.text, source.fontSize,
+    auto copy = std::make_unique<TextElement>(source.position, source.text, source.fontSize,
         source.color, source.penWidth, source.opacity);
+    copy->shareLayout(source);
+    return copy;
 }
 
 ElementPtr copyOfKind(const NumberedCircleElement &source)

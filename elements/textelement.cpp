@@ -98,6 +98,6 @@ void TextElement::scaleLength(double factor)
 const TextLayout &TextElement::layout() const
 {
     if (!m_layout || !m_layout->isOf(text, fontSize))
-        m_layout.emplace(text, fontSize);
+        m_layout = std::make_shared<const TextLayout>(text, fontSize);
     return *m_layout;
 }

@@ -3,7 +3,7 @@
 #include "elements/anchoredelement.h"
 #include "elements/textlayout.h"
 
-#include <optional>
+#include <memory>
 
 /// A block of one or more lines of text, separated by line feeds. Ignores opacity and pen width.
 class TextElement : public AnchoredElement
@@ -16,6 +16,8 @@ public:
     bool contains(const QPoint &point, int tolerance) const override;
     QRect boundingRect() const override;
     QRect paintedRect() const override;
+    /// Takes over what `other`, of the same text and size, has measured.
+    void shareLayout(const TextElement &other) { m_layout = other.m_layout; }
 
     QPoint position; ///< top-left corner of the block
     QString text;
@@ -30,5 +32,5 @@ private:
     const TextLayout &layout() const;
     void drawLines(QPainter *painter, const TextLayout &block) const;
 
-    mutable std::optional<TextLayout> m_layout;
+    mutable std::shared_ptr<const TextLayout> m_layout;
 };

@@ -67,10 +67,22 @@ void TextLayout::drawLine(QPainter *painter, const QString &line, const QPointF 
     const QStringList runs = runsOf(line);
     for (const QString &run : runs) {
         if (isWithinTextRange(origin))
-            painter->drawText(origin, run);
+            drawRun(painter, run, origin);
         if (runs.size() > 1)
             origin.rx() += metrics.horizontalAdvance(run);
     }
+}
+
+void TextLayout::drawRun(QPainter *painter, const QString &run, const QPointF &origin) const
+{
+    if (!GlyphOutlines::areDrawn(m_font, *painter)) {
+        painter->drawText(origin, run);
+        return;
+    }
+    std::shared_ptr<const GlyphOutlines> &outlines = m_outlines[run];
+    if (!outlines)
+        outlines = std::make_shared<const GlyphOutlines>(run, m_font);
+    outlines->draw(painter, origin);
 }
 
 void TextLayout::measure(const QString &line, const QFontMetrics &metrics, double baseline)

@@ -1,10 +1,15 @@
 #pragma once
 
+#include "elements/glyphoutlines.h"
+
 #include <QFont>
+#include <QHash>
 #include <QPointF>
 #include <QRectF>
 #include <QString>
 #include <QStringList>
+
+#include <memory>
 
 class QFontMetrics;
 class QPainter;
@@ -17,7 +22,8 @@ class QPainter;
 [[nodiscard]] bool isWithinTextRange(const QPointF &origin);
 
 /// The lines of a text block, measured once in the font that they are drawn in.
-/// Distances are pixels from the top left corner of the block.
+/// Distances are pixels from the top left corner of the block. Copies of an element share one
+/// layout, so that all of them look alike to the last bit.
 class TextLayout
 {
 public:
@@ -42,6 +48,7 @@ public:
 
 private:
     void measure(const QString &line, const QFontMetrics &metrics, double baseline);
+    void drawRun(QPainter *painter, const QString &run, const QPointF &origin) const;
     /// The line in runs that are short enough for the text engine; nearly always the line itself.
     QStringList runsOf(const QString &line) const;
 
@@ -53,4 +60,6 @@ private:
     int m_lineHeight = 0;
     qint64 m_blockWidth = 0;
     QRectF m_inkRect;
+    /// Of the runs of large text that have been drawn.
+    mutable QHash<QString, std::shared_ptr<const GlyphOutlines>> m_outlines;
 };

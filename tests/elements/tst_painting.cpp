@@ -1,3 +1,4 @@
+#include "elements/cloneelement.h"
 #include "tests/elements/samples.h"
 
 #include <QFontMetrics>
@@ -35,6 +36,7 @@ private slots:
     void textsTellTheLogWhatTheyPaint();
     void earlierMarksLeaveNoTrace_data();
     void earlierMarksLeaveNoTrace();
+    void largeTextsLookTheSameAfterAnyOtherText();
 };
 
 void TestPainting::opacityReplacesAlpha_data()
@@ -190,6 +192,22 @@ void TestPainting::earlierMarksLeaveNoTrace()
         mark->paint(&painter);
         painter.end();
         QCOMPARE(image, samples::painted(*mark, size));
+    }
+}
+
+void TestPainting::largeTextsLookTheSameAfterAnyOtherText()
+{
+    const samples::Pen pen{ Qt::blue, 4, 1.0 };
+    const ElementPtr large = samples::make(DrawingElement::Text, QPoint(-3864, -54), {}, pen,
+        QStringLiteral("word ").repeated(60), 80);
+    const QSize size(96, 64);
+    const QImage picture = samples::painted(*large, size);
+    for (int fontSize = 8; fontSize < 20; ++fontSize) {
+        samples::painted(*samples::make(DrawingElement::Text, QPoint(2, 8), {}, pen,
+                             QStringLiteral("xyz%1").arg(fontSize), fontSize),
+            size);
+        QCOMPARE(samples::painted(*large, size), picture);
+        QCOMPARE(samples::painted(*copyOf(large.get()), size), picture);
     }
 }
 
