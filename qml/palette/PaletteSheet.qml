@@ -150,7 +150,9 @@ Item {
         PaletteDivider {}
         PaletteButton {
             flyouts: root.flyouts
-            img_src: root.canvas && root.canvas.isBreath ? root.palette.repeatIcon : "qrc:/icons/re.png"
+            // The marks go on pulsing while the pointer is let through.
+            img_src: root.palette.drawWindow?.painter.isBreath ? root.palette.repeatIcon
+                                                              : "qrc:/icons/re.png"
             flyout: "breath"
             toolTipText: qsTr("呼吸效果")
             enableEvent: !root.drawing
