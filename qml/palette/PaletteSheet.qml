@@ -13,6 +13,9 @@ Item {
     /// Set while the palette is collapsed.
     property bool isOpen: false
 
+    /// The palette has its full height again, which may reach below the screen.
+    signal unfolded()
+
     readonly property real scaleFactor: palette.scaleFactor
     readonly property bool drawing: palette.drawing
     readonly property var canvas: drawing ? palette.drawWindow.painter : null
@@ -44,6 +47,8 @@ Item {
             onClickedLeft: {
                 root.flyouts.close();
                 root.isOpen = !root.isOpen;
+                if (!root.isOpen)
+                    root.unfolded();
             }
         }
         PaletteDivider {}

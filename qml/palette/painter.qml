@@ -162,6 +162,7 @@ Window {
             palette: root
             flyouts: flyouts
             toolNames: toolNames
+            onUnfolded: placement.bringBack()
         }
     }
 
