@@ -28,7 +28,7 @@ MyIconButton {
     }
     onClickedLeft: {
         if (flyout !== "" && !actsOnClick)
-            flyouts.openForKeys(flyout, root);
+            flyouts.open(flyout, root);
     }
     Keys.onLeftPressed: openByKey()
     Keys.onRightPressed: openByKey()
@@ -38,5 +38,15 @@ MyIconButton {
     function openByKey() {
         if (flyout !== "")
             flyouts.openForKeys(flyout, root);
+    }
+
+    /// Return and Space, unlike the pointer, go on to the flyout's first row.
+    function trigger() {
+        if (enableEvent)
+            return;
+        if (flyout === "" || actsOnClick)
+            clickedLeft();
+        else
+            openByKey();
     }
 }
