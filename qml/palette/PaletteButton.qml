@@ -9,9 +9,12 @@ MyIconButton {
     property string flyout: ""
     /// A click does something of its own instead of opening the flyout.
     property bool actsOnClick: false
+    /// Stays while the palette is collapsed; the others leave the keyboard's round as well.
+    property bool unfolds: false
 
     readonly property real scaleFactor: flyouts.scaleFactor
 
+    visible: unfolds || !flyouts.palette.collapsed
     width: 50 * scaleFactor
     height: 40 * scaleFactor
     radius: 4

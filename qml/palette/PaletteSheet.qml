@@ -39,6 +39,7 @@ Item {
 
         PaletteButton {
             flyouts: root.flyouts
+            unfolds: true
             img_src: root.isOpen ? "qrc:/icons/up.png" : "qrc:/icons/down.png"
             color: Theme.accent
             radius: paper.radius

@@ -38,6 +38,7 @@ Window {
     readonly property bool drawing: drawAble && drawWindow !== null
     /// The monitor that the palette stands on, in the virtual desktop's coordinates.
     readonly property rect monitor: Qt.rect(Screen.virtualX, Screen.virtualY, Screen.width, Screen.height)
+    readonly property alias collapsed: sheet.isOpen
     readonly property alias tools: tools
     readonly property alias effects: effects
     readonly property alias overlayLink: overlayLink
