@@ -30,7 +30,8 @@ MyIconButton {
     color: "transparent"
     isBackTransparent: true
     isMoveStyle: true
-    accessibleName: qsTr("移动工具栏")
+    toolTipText: qsTr("移动工具栏")
+    tip: palette.tip
 
     onPressed: mouse => {
         palette.dragging = true;
