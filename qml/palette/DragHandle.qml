@@ -24,6 +24,11 @@ MyIconButton {
         moved();
     }
 
+    function letGo() {
+        palette.dragging = false;
+        moved();
+    }
+
     width: 50 * palette.scaleFactor
     height: 48 * palette.scaleFactor
     img_src: "qrc:/icons/logo.png"
@@ -42,10 +47,8 @@ MyIconButton {
         if (palette.dragging)
             moveBy(mouse.x - palette.dragX, mouse.y - palette.dragY);
     }
-    onRelease: {
-        palette.dragging = false;
-        moved();
-    }
+    onRelease: letGo()
+    onCanceled: letGo()
     Keys.onLeftPressed: moveByKey(-1, 0)
     Keys.onRightPressed: moveByKey(1, 0)
     Keys.onUpPressed: moveByKey(0, -1)
