@@ -74,7 +74,7 @@ MouseArea {
             root.texts.submitAndClose();
             return;
         }
-        // The right button only deletes, so it leaves the selection alone.
+        // The right button deletes marks and never selects one.
         if (root.frame.covers(pos) || (button === Qt.LeftButton && root.select(pos)))
             return;
         root.frame.visible = false;
@@ -122,14 +122,15 @@ MouseArea {
 
     onReleased: mouse => {
         const pos = root.pointOf(mouse);
-        if (root.frame.covers(pos))
-            return;
         if (root.draggingPicture) {
             root.draggingPicture = false;
             return;
         }
+        // First of all: a hot key may have brought up the frame where the stroke ends.
         if (root.painting && mouse.button === Qt.LeftButton)
             root.endStroke(pos, root.shiftHeld(mouse));
+        else if (root.frame.covers(pos))
+            return;
         root.gestureEnded();
     }
 
