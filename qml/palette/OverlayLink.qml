@@ -62,7 +62,7 @@ QtObject {
         palette.tools.choosePen(0, palette.penIcon);
     }
 
-    /// The hot key of the pen: always a plain pen, whatever tool was in use.
+    /// The hot key of the pen: a plain pen whatever tool was in use. Text entry goes on beside it.
     function startPen() {
         palette.drawAble = true;
         const overlay = palette.drawWindow;
