@@ -143,7 +143,7 @@ Rectangle {
             root.release(mouse);
         }
         onCanceled: {
-            root.setBackground(Theme.paper);
+            root.setBackground(containsMouse ? Theme.buttonHover : Theme.paper);
             root.canceled();
         }
         onPositionChanged: mouse => root.positionChanged(mouse)
