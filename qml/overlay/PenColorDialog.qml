@@ -71,9 +71,10 @@ T.Popup {
     focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
 
-    background: FluFlyoutBackground {
+    background: Rectangle {
         radius: Theme.windowRadius
         color: Theme.paper
+        border { color: Theme.hairline; width: 1 }
     }
 
     contentItem: Column { // qmllint disable deferred-property-id
