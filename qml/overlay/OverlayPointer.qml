@@ -148,9 +148,14 @@ MouseArea {
 
     onWheel: wheel => {
         wheel.accepted = root.picture.visible && (wheel.modifiers & Qt.ControlModifier) !== 0;
-        if (wheel.accepted)
-            root.picture.zoom(wheel.angleDelta.y > 0 ? 1.1 : 0.9);
+        if (!wheel.accepted)
+            return;
+        const steps = notches.completedBy(wheel);
+        for (let i = 0; i < Math.abs(steps); ++i)
+            root.picture.zoom(steps > 0 ? 1.1 : 0.9);
     }
+
+    WheelNotches { id: notches }
 
     EraserEnd {
         id: eraserEnd
