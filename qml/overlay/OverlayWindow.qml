@@ -32,6 +32,8 @@ Window {
     /// A click drew or deleted something.
     signal clickDrawWin
     signal requestRaiseMain
+    /// The desktop asks the window to close; it stays, for the sake of the marks.
+    signal leaveRequested
     /// How the pointer is taken back and let through depends on the desktop.
     signal drawingWanted
     signal passThroughWanted
@@ -84,6 +86,11 @@ Window {
 
     title: qsTr("绘制窗口")
     color: "transparent"
+
+    onClosing: close => {
+        close.accepted = false;
+        root.leaveRequested();
+    }
 
     Component.onCompleted: root.resetDraw()
 

@@ -20,6 +20,7 @@ QtObject {
         }
         overlay.clickDrawWin.connect(palette.closeF);
         overlay.requestRaiseMain.connect(palette.raiseWithFlyout);
+        overlay.leaveRequested.connect(stop);
         palette.drawWindow = overlay;
         return true;
     }
@@ -49,6 +50,14 @@ QtObject {
             overlay.resetDraw();
         else
             overlay.chuantouMouse();
+    }
+
+    /// Lets the pointer through, with the tool kept for the next time.
+    function stop() {
+        if (palette.drawAble)
+            toggle();
+        else
+            palette.drawWindow.chuantouMouse();
     }
 
     /// The first time: a new overlay takes the pen that the palette shows.

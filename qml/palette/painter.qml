@@ -105,7 +105,11 @@ Window {
         flyouts.close();
         tip.hide();
     }
-    onClosing: Qt.quit()
+    onClosing: close => {
+        // What was drawn would go with the program; the tray brings the palette back.
+        close.accepted = false;
+        hide();
+    }
 
     Component.onCompleted: {
         // From here on it stays where it is.

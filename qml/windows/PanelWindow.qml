@@ -24,6 +24,11 @@ Window {
 
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
     color: "transparent"
+    onClosing: close => {
+        // Whoever made the window destroys it.
+        close.accepted = false;
+        dismissed();
+    }
 
     Rectangle {
         anchors.fill: parent
