@@ -31,8 +31,14 @@ QtObject {
             return true;
         if (!create())
             return false;
-        palette.drawWindow.showFullScreen();
+        showNew();
         return true;
+    }
+
+    function showNew() {
+        palette.drawWindow.showFullScreen();
+        // The overlay asked for this while it was made, before anybody listened.
+        palette.raiseWithFlyout();
     }
 
     function toggle() {
@@ -81,7 +87,7 @@ QtObject {
                 return;
             }
             palette.drawWindow.painter.penSize = 3;
-            palette.drawWindow.showFullScreen();
+            showNew();
             return;
         }
         overlay.resetDraw();
