@@ -1,5 +1,6 @@
 #include "app/identity.h"
 #include "app/interfacelanguage.h"
+#include "app/quitfilter.h"
 #include "app/rendering.h"
 #include "app/renderingprobe.h"
 #include "app/singleinstance.h"
@@ -32,6 +33,7 @@ int runInterface(QApplication &application, SingleInstance &instance)
         reportNoSystemTray(application);
         return kExitNoTray;
     }
+    const QuitFilter quitFilter;
     const TerminationRequest terminationRequest;
     QObject::connect(&terminationRequest, &TerminationRequest::received, &application,
         &QCoreApplication::quit, Qt::QueuedConnection);

@@ -65,19 +65,33 @@ void OverlaySurface::cover()
 {
     if (!m_window)
         return;
+    moveToAnchor();
+    m_window->showFullScreen();
+    takeOver();
+}
+
+void OverlaySurface::moveToAnchor()
+{
+    if (!m_window)
+        return;
     QScreen *screen = screenToCover();
     if (!m_window->handle()) {
         m_window->create();
         m_backend->prepareWindow();
     }
-    if (m_window->screen() != screen || m_window->geometry() != screen->geometry()) {
-        // A full-screen window stays on its monitor, so it has to stop being one for the move.
-        if (m_window->isVisible())
-            m_window->showNormal();
-        m_window->setScreen(screen);
-        m_window->setGeometry(screen->geometry());
-    }
-    m_window->showFullScreen();
+    if (m_window->screen() == screen && m_window->geometry() == screen->geometry())
+        return;
+    // A full-screen window stays on its monitor, so it has to stop being one for the move.
+    if (m_window->isVisible())
+        m_window->showNormal();
+    m_window->setScreen(screen);
+    m_window->setGeometry(screen->geometry());
+}
+
+void OverlaySurface::takeOver()
+{
+    if (!m_window)
+        return;
     m_covering = true;
     for (QWindow *own : QGuiApplication::topLevelWindows())
         stackOther(own);

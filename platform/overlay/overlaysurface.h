@@ -46,6 +46,11 @@ public:
 
     /// Shows the window over the whole monitor of the anchor, panels included.
     Q_INVOKABLE void cover();
+    /// The two halves of `cover`, for a document that shows the window in its own way: before
+    /// showing it, brings it to the monitor of the anchor, ...
+    Q_INVOKABLE void moveToAnchor();
+    /// ... and afterwards keeps this program's other windows above it and takes the keyboard.
+    Q_INVOKABLE void takeOver();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

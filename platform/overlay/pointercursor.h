@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCursor>
 #include <QObject>
 #include <QPointF>
 #include <QPointer>
@@ -29,6 +30,11 @@ class PointerCursor : public QObject
 public:
     using QObject::QObject;
 
+    /// The picture in the file or resource `path` as a cursor for a screen with `ratio` pixels per
+    /// logical one; `size` and `offset` are those of the properties. The cross without a picture.
+    [[nodiscard]] static QCursor pictureCursor(
+        const QString &path, int size, QPointF offset, qreal ratio);
+
     void setTarget(QQuickItem *target);
     void setShape(Qt::CursorShape shape) { set(m_shape, shape); }
     void setPicture(const QUrl &picture) { set(m_picture, picture); }
@@ -48,7 +54,6 @@ private:
         emit changed();
     }
     void apply();
-    [[nodiscard]] QCursor pictureCursor() const;
 
     QPointer<QQuickItem> m_target;
     Qt::CursorShape m_shape = Qt::ArrowCursor;

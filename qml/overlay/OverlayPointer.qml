@@ -74,7 +74,7 @@ MouseArea {
             root.texts.submitAndClose();
             return;
         }
-        // The right button only deletes, so it leaves the selection alone.
+        // The right button deletes marks and never selects one.
         if (root.frame.covers(pos) || (button === Qt.LeftButton && root.select(pos)))
             return;
         root.frame.visible = false;
@@ -122,14 +122,15 @@ MouseArea {
 
     onReleased: mouse => {
         const pos = root.pointOf(mouse);
-        if (root.frame.covers(pos))
-            return;
         if (root.draggingPicture) {
             root.draggingPicture = false;
             return;
         }
+        // First of all: a hot key may have brought up the frame where the stroke ends.
         if (root.painting && mouse.button === Qt.LeftButton)
             root.endStroke(pos, root.shiftHeld(mouse));
+        else if (root.frame.covers(pos))
+            return;
         root.gestureEnded();
     }
 
@@ -147,9 +148,14 @@ MouseArea {
 
     onWheel: wheel => {
         wheel.accepted = root.picture.visible && (wheel.modifiers & Qt.ControlModifier) !== 0;
-        if (wheel.accepted)
-            root.picture.zoom(wheel.angleDelta.y > 0 ? 1.1 : 0.9);
+        if (!wheel.accepted)
+            return;
+        const steps = notches.completedBy(wheel);
+        for (let i = 0; i < Math.abs(steps); ++i)
+            root.picture.zoom(steps > 0 ? 1.1 : 0.9);
     }
+
+    WheelNotches { id: notches }
 
     EraserEnd {
         id: eraserEnd

@@ -32,6 +32,8 @@ Window {
     /// A click drew or deleted something.
     signal clickDrawWin
     signal requestRaiseMain
+    /// The desktop asks the window to close; it stays, for the sake of the marks.
+    signal leaveRequested
     /// How the pointer is taken back and let through depends on the desktop.
     signal drawingWanted
     signal passThroughWanted
@@ -85,6 +87,11 @@ Window {
     title: qsTr("绘制窗口")
     color: "transparent"
 
+    onClosing: close => {
+        close.accepted = false;
+        root.leaveRequested();
+    }
+
     Component.onCompleted: root.resetDraw()
 
     OverlaySurface {
@@ -135,6 +142,7 @@ Window {
             anchors.fill: parent
             surface: overlaySurface
             marks: myPainter
+            visible: root.color.a === 0 // a board hides the desktop, and so the desktop's picture
             onFirstFrozen: infoBar.showWarning(
                 qsTr("桌面没有运行合成器：您将在静止的屏幕画面上绘制"), 6000)
         }

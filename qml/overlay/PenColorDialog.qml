@@ -51,7 +51,18 @@ T.Popup {
         const digits = text.trim().replace(/^#/, "");
         if (/^[0-9a-fA-F]{6}$/.test(digits))
             root.choose("#" + digits);
+        root.showChosenText();
+    }
+
+    function showChosenText(): void {
         hex.text = Qt.binding(() => root.selectedColor.toString());
+    }
+
+    /// The pen keeps its colour from before; what was typed meanwhile is dropped.
+    function cancel(): void {
+        root.showChosenText();
+        root.choose(root.startColor);
+        root.close();
     }
 
     width: 260
@@ -60,9 +71,10 @@ T.Popup {
     focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
 
-    background: FluFlyoutBackground {
+    background: Rectangle {
         radius: Theme.windowRadius
         color: Theme.paper
+        border { color: Theme.hairline; width: 1 }
     }
 
     contentItem: Column { // qmllint disable deferred-property-id
@@ -115,6 +127,10 @@ T.Popup {
                 cleanEnabled: false
                 text: root.selectedColor.toString()
                 Accessible.name: qsTr("颜色代码")
+                Keys.onEscapePressed: event => {
+                    root.showChosenText();
+                    event.accepted = false; // it also closes the dialog
+                }
                 onCommit: text => root.chooseText(text)
                 onEditingFinished: root.chooseText(text)
             }
@@ -127,10 +143,7 @@ T.Popup {
             FluButton {
                 width: 72
                 text: qsTr("取消")
-                onClicked: {
-                    root.choose(root.startColor);
-                    root.close();
-                }
+                onClicked: root.cancel()
             }
 
             AccentButton {

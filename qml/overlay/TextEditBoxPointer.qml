@@ -52,7 +52,9 @@ MouseArea {
         wheel.accepted = (wheel.modifiers & Qt.ControlModifier) !== 0;
         if (!wheel.accepted)
             return;
-        const step = Math.sign(wheel.angleDelta.y);
-        root.edit.font.pixelSize = Math.max(8, Math.min(72, root.edit.font.pixelSize + step));
+        const size = root.edit.font.pixelSize + notches.completedBy(wheel);
+        root.edit.font.pixelSize = Math.max(8, Math.min(72, size));
     }
+
+    WheelNotches { id: notches }
 }

@@ -7,9 +7,15 @@ OverlayWindow {
     flags: Qt.Tool | Qt.FramelessWindowHint
 
     onDrawingWanted: {
+        root.surface.passThrough = false;
         root.showNormal();
         root.flags = Qt.Window | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint;
+        root.surface.moveToAnchor();
         root.showMaximized();
+        root.surface.takeOver();
     }
-    onPassThroughWanted: root.showMinimized()
+    onPassThroughWanted: {
+        root.surface.passThrough = true;
+        root.showMinimized();
+    }
 }

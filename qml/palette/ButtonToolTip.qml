@@ -19,9 +19,10 @@ Window {
         button = target;
         const reach = (flyouts.isOpen ? flyouts.popupWidth : 0) + gap;
         const right = palette.x + palette.width + reach;
-        const lowest = Screen.virtualY + Screen.height - height;
+        const area = palette.monitor; // its own monitor is the one where it was shown last
+        const lowest = area.y + area.height - height;
         x = flyouts.onLeft ? palette.x - width - reach : right;
-        y = Math.round(Math.max(Screen.virtualY,
+        y = Math.round(Math.max(area.y,
                                 Math.min(target.mapToGlobal(0, pointerY).y - height / 2, lowest)));
         show();
         raise();

@@ -24,13 +24,19 @@ MyIconButton {
         moved();
     }
 
+    function letGo() {
+        palette.dragging = false;
+        moved();
+    }
+
     width: 50 * palette.scaleFactor
     height: 48 * palette.scaleFactor
     img_src: "qrc:/icons/logo.png"
     color: "transparent"
     isBackTransparent: true
     isMoveStyle: true
-    accessibleName: qsTr("移动工具栏")
+    toolTipText: qsTr("移动工具栏")
+    tip: palette.tip
 
     onPressed: mouse => {
         palette.dragging = true;
@@ -41,10 +47,8 @@ MyIconButton {
         if (palette.dragging)
             moveBy(mouse.x - palette.dragX, mouse.y - palette.dragY);
     }
-    onRelease: {
-        palette.dragging = false;
-        moved();
-    }
+    onRelease: letGo()
+    onCanceled: letGo()
     Keys.onLeftPressed: moveByKey(-1, 0)
     Keys.onRightPressed: moveByKey(1, 0)
     Keys.onUpPressed: moveByKey(0, -1)

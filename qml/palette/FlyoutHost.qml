@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Window
 import "Flyouts.js" as Flyouts
 
 /// Opens the flyouts beside the palette; there is at most one. The palette keeps the keyboard, so
@@ -83,9 +82,10 @@ Item {
 
     /// Puts the flyout where it belongs, but never below the bottom of the screen.
     function place(flyout, button) {
-        const lowest = Screen.virtualY + Screen.height - flyout.height;
+        const area = palette.monitor;
+        const lowest = area.y + area.height - flyout.height;
         flyout.x = palette.x + palette.seX;
-        flyout.y = Math.max(Screen.virtualY, Math.min(palette.y + palette.seY, lowest));
+        flyout.y = Math.max(area.y, Math.min(palette.y + palette.seY, lowest));
         flyout.arrowY = button.mapToGlobal(0, button.height / 2).y - flyout.y;
     }
 

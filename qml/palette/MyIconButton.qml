@@ -34,6 +34,8 @@ Rectangle {
     signal clickedRight()
     signal pressed(var mouse)
     signal release(var mouse)
+    /// The press ends without a release: something else took the pointer.
+    signal canceled()
     signal positionChanged(var mouse)
     signal entered()
     signal exited()
@@ -147,6 +149,10 @@ Rectangle {
                 return;
             root.setBackground(Theme.buttonHover);
             root.release(mouse);
+        }
+        onCanceled: {
+            root.setBackground(containsMouse ? Theme.buttonHover : Theme.paper);
+            root.canceled();
         }
         onPositionChanged: mouse => root.positionChanged(mouse)
         onClicked: mouse => {

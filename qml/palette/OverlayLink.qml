@@ -20,6 +20,7 @@ QtObject {
         }
         overlay.clickDrawWin.connect(palette.closeF);
         overlay.requestRaiseMain.connect(palette.raiseWithFlyout);
+        overlay.leaveRequested.connect(stop);
         palette.drawWindow = overlay;
         return true;
     }
@@ -30,8 +31,14 @@ QtObject {
             return true;
         if (!create())
             return false;
-        palette.drawWindow.showFullScreen();
+        showNew();
         return true;
+    }
+
+    function showNew() {
+        palette.drawWindow.showFullScreen();
+        // The overlay asked for this while it was made, before anybody listened.
+        palette.raiseWithFlyout();
     }
 
     function toggle() {
@@ -51,6 +58,14 @@ QtObject {
             overlay.chuantouMouse();
     }
 
+    /// Lets the pointer through, with the tool kept for the next time.
+    function stop() {
+        if (palette.drawAble)
+            toggle();
+        else
+            palette.drawWindow.chuantouMouse();
+    }
+
     /// The first time: a new overlay takes the pen that the palette shows.
     function start() {
         if (!create()) {
@@ -62,7 +77,7 @@ QtObject {
         palette.tools.choosePen(0, palette.penIcon);
     }
 
-    /// The hot key of the pen: always a plain pen, whatever tool was in use.
+    /// The hot key of the pen: a plain pen whatever tool was in use. Text entry goes on beside it.
     function startPen() {
         palette.drawAble = true;
         const overlay = palette.drawWindow;
@@ -72,7 +87,7 @@ QtObject {
                 return;
             }
             palette.drawWindow.painter.penSize = 3;
-            palette.drawWindow.showFullScreen();
+            showNew();
             return;
         }
         overlay.resetDraw();

@@ -9,9 +9,12 @@ MyIconButton {
     property string flyout: ""
     /// A click does something of its own instead of opening the flyout.
     property bool actsOnClick: false
+    /// Stays while the palette is collapsed; the others leave the keyboard's round as well.
+    property bool unfolds: false
 
     readonly property real scaleFactor: flyouts.scaleFactor
 
+    visible: unfolds || !flyouts.palette.collapsed
     width: 50 * scaleFactor
     height: 40 * scaleFactor
     radius: 4
@@ -28,7 +31,7 @@ MyIconButton {
     }
     onClickedLeft: {
         if (flyout !== "" && !actsOnClick)
-            flyouts.openForKeys(flyout, root);
+            flyouts.open(flyout, root);
     }
     Keys.onLeftPressed: openByKey()
     Keys.onRightPressed: openByKey()
@@ -38,5 +41,15 @@ MyIconButton {
     function openByKey() {
         if (flyout !== "")
             flyouts.openForKeys(flyout, root);
+    }
+
+    /// Return and Space, unlike the pointer, go on to the flyout's first row.
+    function trigger() {
+        if (enableEvent)
+            return;
+        if (flyout === "" || actsOnClick)
+            clickedLeft();
+        else
+            openByKey();
     }
 }

@@ -13,6 +13,9 @@ Item {
     /// Set while the palette is collapsed.
     property bool isOpen: false
 
+    /// The palette has its full height again, which may reach below the screen.
+    signal unfolded()
+
     readonly property real scaleFactor: palette.scaleFactor
     readonly property bool drawing: palette.drawing
     readonly property var canvas: drawing ? palette.drawWindow.painter : null
@@ -36,6 +39,7 @@ Item {
 
         PaletteButton {
             flyouts: root.flyouts
+            unfolds: true
             img_src: root.isOpen ? "qrc:/icons/up.png" : "qrc:/icons/down.png"
             color: Theme.accent
             radius: paper.radius
@@ -44,6 +48,8 @@ Item {
             onClickedLeft: {
                 root.flyouts.close();
                 root.isOpen = !root.isOpen;
+                if (!root.isOpen)
+                    root.unfolded();
             }
         }
         PaletteDivider {}
@@ -152,7 +158,9 @@ Item {
         PaletteDivider {}
         PaletteButton {
             flyouts: root.flyouts
-            img_src: root.canvas && root.canvas.isBreath ? root.palette.repeatIcon : "qrc:/icons/re.png"
+            // The marks go on pulsing while the pointer is let through.
+            img_src: root.palette.drawWindow?.painter.isBreath ? root.palette.repeatIcon
+                                                              : "qrc:/icons/re.png"
             flyout: "breath"
             toolTipText: qsTr("呼吸效果")
             enableEvent: !root.drawing

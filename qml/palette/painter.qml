@@ -36,6 +36,9 @@ Window {
     property string appVersion: "3.2.0"
 
     readonly property bool drawing: drawAble && drawWindow !== null
+    /// The monitor that the palette stands on, in the virtual desktop's coordinates.
+    readonly property rect monitor: Qt.rect(Screen.virtualX, Screen.virtualY, Screen.width, Screen.height)
+    readonly property alias collapsed: sheet.isOpen
     readonly property alias tools: tools
     readonly property alias effects: effects
     readonly property alias overlayLink: overlayLink
@@ -103,7 +106,11 @@ Window {
         flyouts.close();
         tip.hide();
     }
-    onClosing: Qt.quit()
+    onClosing: close => {
+        // What was drawn would go with the program; the tray brings the palette back.
+        close.accepted = false;
+        hide();
+    }
 
     Component.onCompleted: {
         // From here on it stays where it is.
@@ -162,6 +169,7 @@ Window {
             palette: root
             flyouts: flyouts
             toolNames: toolNames
+            onUnfolded: placement.bringBack()
         }
     }
 

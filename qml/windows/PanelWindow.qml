@@ -16,16 +16,21 @@ Window {
     /// The user closes the window.
     signal dismissed()
 
-    /// Puts the window at `left`, level with `palette`, but whole on its screen.
+    /// Puts the window at `left`, level with `palette`, but whole on the palette's monitor: this
+    /// window itself belongs to the primary one until it is shown.
     function placeBeside(palette, left) {
-        const leftmost = Screen.virtualX;
-        const topmost = Screen.virtualY;
-        x = Math.max(leftmost, Math.min(left, leftmost + Screen.width - width));
-        y = Math.max(topmost, Math.min(palette.y, topmost + Screen.height - height));
+        const area = palette.monitor;
+        x = Math.max(area.x, Math.min(left, area.x + area.width - width));
+        y = Math.max(area.y, Math.min(palette.y, area.y + area.height - height));
     }
 
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
     color: "transparent"
+    onClosing: close => {
+        // Whoever made the window destroys it.
+        close.accepted = false;
+        dismissed();
+    }
 
     Rectangle {
         anchors.fill: parent

@@ -63,6 +63,23 @@ class LifecycleTest(desktop.DesktopTestCase):
                 os.kill(program.pid, number)
                 self.assertEqual(program.wait_for_end(), 0)
 
+    def test_closing_a_window_ends_neither_the_program_nor_the_marks(self):
+        program = self.start()
+        tools = desktop.Palette(self.desktop, program)
+        overlay = tools.start_drawing()
+        self.desktop.pointer.drag([(300, 300), (600, 300)])
+        is_red = lambda colour: desktop.near(colour, (255, 0, 0), 90)  # noqa: E731
+        self.wait_for_pixel(450, 300, is_red, "the stroke")
+        self.desktop.windows.close(overlay)
+        self.wait_for(lambda: not overlay.takes_pointer, "the pointer to be let through")
+        window = tools.window
+        self.desktop.windows.close(window)
+        self.wait_for(lambda: window not in program.windows(), "the palette to hide")
+        self.wait_for_pixel(450, 300, is_red, "the stroke to stay")
+        desktop.TrayIcon(self.desktop, program).choose(desktop.HIDE)
+        tools.choose("menu", "quit")
+        self.assertEqual(program.wait_for_end(), 0)
+
 
 class LateTrayTest(desktop.DesktopTestCase):
     desktop_options = {"tray": False}

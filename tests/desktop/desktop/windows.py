@@ -167,10 +167,16 @@ class Windows:
     def activate(self, window):
         """Gives the keyboard to a window, as the window switcher does."""
         from_pager = 2
-        data = (from_pager, X.CurrentTime, 0, 0, 0)
+        self._ask("_NET_ACTIVE_WINDOW", window, (from_pager, X.CurrentTime, 0, 0, 0))
+
+    def close(self, window):
+        """Asks a window to close, as Alt+F4 and a task bar do."""
+        from_pager = 2
+        self._ask("_NET_CLOSE_WINDOW", window, (X.CurrentTime, from_pager, 0, 0, 0))
+
+    def _ask(self, what, window, data):
         message = event.ClientMessage(
-            window=window.id, client_type=self._display.get_atom("_NET_ACTIVE_WINDOW"),
-            data=(32, data))
+            window=window.id, client_type=self._display.get_atom(what), data=(32, data))
         self._root.send_event(
             message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
         self._display.sync()
