@@ -42,7 +42,9 @@ void TrayIcon::showWindow()
     if (m_window) {
         m_window->show();
         m_window->raise();
-        m_window->requestActivate();
+        // It may be one that leaves the keyboard to what the user types in.
+        if (!m_window->flags().testFlag(Qt::WindowDoesNotAcceptFocus))
+            m_window->requestActivate();
     }
 }
 

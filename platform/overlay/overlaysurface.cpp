@@ -10,6 +10,10 @@
 OverlaySurface::OverlaySurface(QObject *parent) : QObject(parent)
 {
     qGuiApp->installEventFilter(this);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow *focused) {
+        if (focused)
+            m_lastFocused = focused;
+    });
 }
 
 OverlaySurface::~OverlaySurface() = default;
@@ -132,14 +136,34 @@ void OverlaySurface::applyPassThrough()
         m_backend->takeFocus();
 }
 
+/// A window of this program that closes amid drawing, such as a dialog, leaves its keyboard to the
+/// overlay, not to whatever lies beneath.
+void OverlaySurface::inheritFocus()
+{
+    const QWindow *focused = QGuiApplication::focusWindow();
+    if (m_covering && !m_passThrough && (!focused || !focused->isVisible()))
+        m_backend->takeFocus();
+}
+
 bool OverlaySurface::eventFilter(QObject *watched, QEvent *event)
 {
     if (!watched->isWindowType() || !m_window)
         return false;
-    if (watched == m_window)
-        followPointer(event);
-    else if (event->type() == QEvent::Expose)
-        stackOther(static_cast<QWindow *>(watched));
+    if (watched != m_window) {
+        if (event->type() == QEvent::Expose)
+            stackOther(static_cast<QWindow *>(watched));
+        else if (event->type() == QEvent::Hide && watched == m_lastFocused)
+            QMetaObject::invokeMethod(this, &OverlaySurface::inheritFocus, Qt::QueuedConnection);
+        return false;
+    }
+    // Qt Quick would end the gesture; the pointer still belongs to the window that was pressed.
+    const bool losesKeyboard =
+        event->type() == QEvent::FocusOut || event->type() == QEvent::WindowDeactivate;
+    if (losesKeyboard && m_buttonDown) {
+        m_lostKeyboard = true;
+        return true;
+    }
+    followPointer(event);
     return false;
 }
 
@@ -162,8 +186,23 @@ void OverlaySurface::followPointer(const QEvent *event)
     default:
         return;
     }
-    if (m_passThrough && !m_buttonDown)
+    if (m_buttonDown)
+        return;
+    if (m_passThrough)
         applyPassThrough();
+    // Queued: the window has yet to see the release.
+    if (std::exchange(m_lostKeyboard, false))
+        QMetaObject::invokeMethod(this, &OverlaySurface::loseKeyboard, Qt::QueuedConnection);
+}
+
+void OverlaySurface::loseKeyboard()
+{
+    if (!m_window || m_window->isActive())
+        return;
+    QFocusEvent focusOut(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(m_window, &focusOut);
+    QEvent deactivate(QEvent::WindowDeactivate);
+    QCoreApplication::sendEvent(m_window, &deactivate);
 }
 
 void OverlaySurface::setEraserTip(bool eraserTip)

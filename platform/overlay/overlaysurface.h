@@ -66,17 +66,21 @@ private:
     void coverAgain();
     [[nodiscard]] QScreen *screenToCover() const;
     void followPointer(const QEvent *event);
+    void inheritFocus();
+    void loseKeyboard();
     void setEraserTip(bool eraserTip);
     void stackOther(QWindow *other);
     void applyPassThrough();
 
     QPointer<QWindow> m_window;
     QPointer<QWindow> m_anchor;
+    QPointer<QWindow> m_lastFocused; ///< this program's window that had the keyboard last
     std::unique_ptr<OverlayBackend> m_backend;
     QList<QPointer<const QObject>> m_stackedAbove; ///< a later window may get an old address
     bool m_passThrough = false;
     bool m_applied = false; ///< what the window's input shape is now
     bool m_covering = false;
     bool m_buttonDown = false; ///< on the overlay's window
+    bool m_lostKeyboard = false; ///< amid a gesture, which goes on
     bool m_eraserTip = false;
 };

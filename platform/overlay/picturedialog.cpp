@@ -9,15 +9,20 @@ PictureDialog::PictureDialog(QObject *parent)
 {
 }
 
-PictureDialog::~PictureDialog() = default;
+PictureDialog::~PictureDialog()
+{
+    delete m_dialog;
+}
 
 void PictureDialog::open()
 {
     if (!m_dialog) {
-        m_dialog = std::make_unique<QFileDialog>();
+        m_dialog = new QFileDialog;
+        // Its list of completions may still be under way, and would hold the pointer.
+        m_dialog->setAttribute(Qt::WA_DeleteOnClose);
         m_dialog->setFileMode(QFileDialog::ExistingFile);
         m_dialog->setWindowFlag(Qt::WindowStaysOnTopHint);
-        connect(m_dialog.get(), &QFileDialog::accepted, this, [this] {
+        connect(m_dialog, &QFileDialog::accepted, this, [this] {
             const QUrl file = m_dialog->selectedUrls().value(0);
             m_folder = file.adjusted(QUrl::RemoveFilename);
             emit accepted(file);

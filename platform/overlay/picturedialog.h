@@ -1,10 +1,9 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QQmlEngine>
 #include <QUrl>
-
-#include <memory>
 
 class QFileDialog;
 
@@ -35,6 +34,6 @@ private:
     QString m_acceptLabel;
     QString m_rejectLabel;
     QString m_nameFilter;
-    std::unique_ptr<QFileDialog> m_dialog;
+    QPointer<QFileDialog> m_dialog; ///< while it is open
     QUrl m_folder; ///< where the last choice was made
 };

@@ -24,7 +24,10 @@ MouseArea {
     property bool consumed: false
     /// The press was made to place a text editor: a hot key may change the mode before its release.
     property bool placingText: false
+    /// The press of the eraser took hold of a mark: dragged on, it erases after all.
+    property bool eraserOnMark: false
     property point lastPos
+    readonly property int dragDistance: 5
 
     /// A click drew or deleted something.
     signal drewOrDeleted
@@ -74,16 +77,29 @@ MouseArea {
             root.texts.submitAndClose();
             return;
         }
-        // The right button deletes marks and never selects one.
-        if (root.frame.covers(pos) || (button === Qt.LeftButton && root.select(pos)))
-            return;
-        root.frame.visible = false;
-        root.painter.clearSelection();
         root.lastPos = pos;
+        // The right button deletes marks and never selects one.
+        if (root.frame.covers(pos))
+            return;
+        if (button === Qt.LeftButton && root.select(pos)) {
+            root.eraserOnMark = root.painter.isEraserMode;
+            return;
+        }
+        root.frame.dismiss();
         if (root.picture.visible && (modifiers & Qt.ControlModifier))
             root.draggingPicture = root.consumed = true;
         else if (button === Qt.LeftButton && !root.textMode)
             root.beginStroke(pos);
+    }
+
+    /// An eraser that is drawn across a mark is meant to erase it, not to take hold of it.
+    function eraseIfDragged(pos: point): void {
+        const start = root.lastPos;
+        if (Math.max(Math.abs(pos.x - start.x), Math.abs(pos.y - start.y)) < root.dragDistance)
+            return;
+        root.eraserOnMark = false;
+        root.frame.dismiss();
+        root.beginStroke(start);
     }
 
     function click(pos: point, button: int): void {
@@ -113,15 +129,19 @@ MouseArea {
 
     onPositionChanged: mouse => {
         const pos = root.pointOf(mouse);
+        if (root.eraserOnMark && pressed)
+            root.eraseIfDragged(pos);
         if (root.draggingPicture)
             root.picture.moveBy(pos.x - root.lastPos.x, pos.y - root.lastPos.y);
         else if (root.painting)
             root.painter.movePaint(pos, root.shiftHeld(mouse));
-        root.lastPos = pos;
+        if (!root.eraserOnMark)
+            root.lastPos = pos;
     }
 
     onReleased: mouse => {
         const pos = root.pointOf(mouse);
+        root.eraserOnMark = false;
         if (root.draggingPicture) {
             root.draggingPicture = false;
             return;

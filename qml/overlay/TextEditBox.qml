@@ -97,11 +97,14 @@ Rectangle {
 
         Keys.onEscapePressed: root.destroy()
         Keys.onPressed: event => {
-            // The editor itself knows Return, but not together with Ctrl.
+            // The editor itself knows Return, but not together with Ctrl, and another key to redo.
+            const ctrl = (event.modifiers & Qt.ControlModifier) !== 0;
             const enter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
-            event.accepted = enter && (event.modifiers & Qt.ControlModifier) !== 0;
-            if (event.accepted)
+            event.accepted = ctrl && (enter || event.key === Qt.Key_Y);
+            if (event.accepted && enter)
                 root.breakLine();
+            else if (event.accepted)
+                edit.redo();
         }
     }
 

@@ -52,12 +52,12 @@ Item {
             return;
         close();
         const component = Qt.createComponent("qrc:/select.qml");
-        const spec = Flyouts.table[kind];
-        const rows = spec.rows ?? toolNames.menu;
+        const flyoutKind = Flyouts.table[kind];
+        const rows = flyoutKind.rows ?? toolNames.menu;
         const flyout = component.createObject(null, {
             customData: rows,
-            btnType: spec.btnType,
-            names: spec.rows ? rows.map(toolNames.of) : rows,
+            btnType: flyoutKind.btnType,
+            names: flyoutKind.rows ? rows.map(toolNames.of) : rows,
             scaleFactor: palette.scaleFactor,
             tip: palette.tip,
             pointsRight: onLeft
@@ -73,7 +73,7 @@ Item {
         });
         root.kind = kind;
         palette.seX = onLeft ? -popupWidth : Math.round(50 * palette.scaleFactor);
-        palette.seY = spec.seY * palette.scaleFactor;
+        palette.seY = flyoutKind.seY * palette.scaleFactor;
         place(flyout, button);
         palette.selectWindow = flyout;
         flyout.show();

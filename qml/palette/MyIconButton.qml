@@ -147,7 +147,7 @@ Rectangle {
         onReleased: mouse => {
             if (root.enableEvent)
                 return;
-            root.setBackground(Theme.buttonHover);
+            root.setBackground(mouseArea.containsMouse ? Theme.buttonHover : Theme.paper);
             root.release(mouse);
         }
         onCanceled: {

@@ -13,6 +13,7 @@ def palette(program):
 
 
 class LifecycleTest(desktop.DesktopTestCase):
+    expected_warning = "The deployment file is damaged"
 
     def socket_path(self):
         return os.path.join(self.desktop.folder, "tmp", NAME)

@@ -113,6 +113,26 @@ class DrawingTest(OverlayTestCase):
         shot = self.desktop.screen.shot()
         self.assertEqual([c for c in corners if not is_red(shot.getpixel(c))], [])
 
+    def test_a_stroke_goes_on_when_another_window_takes_the_keyboard(self):
+        self.start_drawing()
+        before = self.desktop.screen.shot((0, 0, 1100, 800))
+        self.desktop.pointer.move(150, 600)
+        self.desktop.pointer.press()
+        self.desktop.pointer.glide([(150, 600), (250, 600)])
+        self.wait_for_red(240, 600, "the stroke")
+        left, top, right, bottom = desktop.changed_box(
+            before, self.desktop.screen.shot((0, 0, 1100, 800)))
+        # The pen cursor, too, stands at the stroke's end; nothing else of the screen has changed.
+        self.assertTrue(left >= 145 and right <= 310 and 540 <= top and bottom <= 660)
+        plain = self.desktop.open_window("Notice", (700, 100, 200, 100))
+        self.desktop.windows.activate(plain.window)
+        self.wait_for(lambda: self.desktop.windows.active == plain.window, "the keyboard to go")
+        self.desktop.pointer.glide([(250, 600), (350, 600)])
+        self.desktop.pointer.release()
+        self.wait_for_red(345, 600, "the rest of the stroke")
+        self.desktop.pointer.drag([(150, 650), (350, 650)])
+        self.wait_for_red(250, 650, "the next stroke")
+
     def test_leaving_while_a_button_is_down_finishes_the_gesture_first(self):
         plain = self.desktop.open_window("Beneath", (100, 200, 400, 300))
         self.start_drawing()
@@ -120,8 +140,11 @@ class DrawingTest(OverlayTestCase):
         self.desktop.pointer.press()
         self.desktop.pointer.glide([(150, 300), (250, 300)])
         self.wait_for_red(240, 300, "the stroke")
+        drawing = self.desktop.screen.shot(tuple(self.palette.geometry)).tobytes()
         self.desktop.keyboard.tap("Ctrl+Q")
-        self.wait_for_pixel(*self.palette.at(16, 80), lambda _: True, "the palette")
+        self.wait_for(
+            lambda: self.desktop.screen.shot(tuple(self.palette.geometry)).tobytes() != drawing,
+            "the palette to say that drawing has ended")
         self.desktop.pointer.glide([(250, 300), (350, 300)])
         self.desktop.pointer.release()
         self.wait_for(lambda: not self.overlay.takes_pointer, "the pointer to be let through")

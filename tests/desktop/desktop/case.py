@@ -1,6 +1,7 @@
 """The frame of every desktop test."""
 
 import os
+import re
 import sys
 import unittest
 
@@ -32,9 +33,11 @@ class DesktopTestCase(unittest.TestCase):
     """Gives each test a fresh desktop (`self.desktop`) and a way to start the program on it.
 
     A class shapes its desktop with `desktop_options`, the arguments of `Desktop`. When a test
-    fails, a screenshot and the logs are kept. A report of a sanitizer fails the test too."""
+    fails, a screenshot and the logs are kept. A report of a sanitizer fails the test too, and so
+    does a warning in the program's log, unless `expected_warning`, a pattern, matches it."""
 
     desktop_options = {}
+    expected_warning = None
 
     def setUp(self):
         self.desktop = Desktop(**self.desktop_options)
@@ -66,22 +69,27 @@ class DesktopTestCase(unittest.TestCase):
 
     def _finish(self):
         try:
-            if self._has_failed():
+            if self._failed():
                 self._keep_evidence()
             self.desktop.keyboard.release_all()
             self.desktop.pointer.release_all()
             for program in self.desktop.programs:
                 program.stop()
             reports = [program.sanitizer_reports() for program in self.desktop.programs]
+            warnings = [line for program in self.desktop.programs for line in program.warnings()
+                        if not (self.expected_warning and re.search(self.expected_warning, line))]
         finally:
             self.desktop.close()
         if any(reports):
             self.fail("a sanitizer reported:\n" + "\n".join(reports))
+        if warnings:
+            self.fail("the program complained:\n" + "\n".join(warnings))
 
-    def _has_failed(self):
-        # The outcome's own flag is reset before each clean-up runs.
+    def _failed(self):
+        # Within a cleanup the outcome speaks of the cleanup alone; the result knows the test.
         result = self._outcome.result
-        return any(test is self for test, _ in result.failures + result.errors)
+        return any(self in (test, getattr(test, "test_case", None))
+                   for test, _ in result.failures + result.errors)
 
     def _keep_evidence(self):
         name = self.id().replace("__main__.", "")

@@ -5,6 +5,8 @@ import time
 from Xlib import X, XK
 from Xlib.ext import xtest
 
+from .manager import WindowManagerQueue
+
 MODIFIER_KEYSYMS = {
     "Ctrl": "Control_L", "Shift": "Shift_L", "Alt": "Alt_L", "Meta": "Super_L",
 }
@@ -107,6 +109,7 @@ class Pointer:
     def __init__(self, display, keyboard):
         self._display = display
         self._keyboard = keyboard
+        self._manager = WindowManagerQueue(display)
         self._down = []
 
     @property
@@ -122,6 +125,7 @@ class Pointer:
         xtest.fake_input(self._display, X.ButtonPress, button)
         self._display.sync()
         self._down.append(button)
+        self._manager.drain()
 
     def release(self, button=LEFT):
         xtest.fake_input(self._display, X.ButtonRelease, button)

@@ -11,6 +11,9 @@ from .waiting import wait_for
 # What belongs beside the executable; the rest of the build folder is the tests' own.
 BESIDE = ("translations", "thirdparty")
 SANITIZER_EXIT_CODE = 99
+WARNING = "WARNING "
+# Which renderer is there is only known once there is an application; Qt remarks on it.
+HARMLESS = "Attribute Qt::AA_Use"
 SUPPRESSIONS = os.path.join(os.path.dirname(os.path.dirname(os.path.dirname(
     os.path.abspath(__file__)))), "sanitizers", "leaks.txt")
 
@@ -55,6 +58,9 @@ class Program:
         variables = dict(env or {})
         if scale:
             variables["QT_SCALE_FACTOR"] = str(scale)
+        variables["QT_MESSAGE_PATTERN"] = (
+            f"%{{if-warning}}{WARNING}%{{endif}}%{{if-critical}}{WARNING}%{{endif}}"
+            "%{if-category}%{category}: %{endif}%{message}")
         variables.update(self._sanitizer_options())
         with open(self._log_path, "wb") as log:
             self._popen = desktop.guard.start(
@@ -86,6 +92,11 @@ class Program:
         """All that it wrote to standard output and standard error so far."""
         with open(self._log_path, encoding="utf-8", errors="replace") as log:
             return log.read()
+
+    def warnings(self):
+        """What it complained about, line by line."""
+        return [line.removeprefix(WARNING) for line in self.log().splitlines()
+                if line.startswith(WARNING) and HARMLESS not in line]
 
     def wait_for_log(self, text, count=1, timeout=30.0):
         """Waits until the log holds a text, at least `count` times."""

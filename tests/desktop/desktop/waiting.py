@@ -10,7 +10,7 @@ class WaitTimeout(AssertionError):
     """A condition did not come true in time; the message says which."""
 
 
-def wait_for(condition, what, timeout=DEFAULT_TIMEOUT_S):
+def wait_for(condition, what, timeout=DEFAULT_TIMEOUT_S, interval=POLL_INTERVAL_S):
     """Polls `condition` until it is truthy and returns its value.
 
     `what` completes the sentence "waited for ...". A condition may raise AssertionError or
@@ -28,4 +28,4 @@ def wait_for(condition, what, timeout=DEFAULT_TIMEOUT_S):
         if time.monotonic() > deadline:
             detail = f" (last: {last})" if last else ""
             raise WaitTimeout(f"waited {timeout:g} s for {what}{detail}")
-        time.sleep(POLL_INTERVAL_S)
+        time.sleep(interval)
