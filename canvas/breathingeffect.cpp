@@ -106,13 +106,13 @@ void BreathingEffect::pulse()
         wave * (m_baseOpacity - kLowestOpacity) + kLowestOpacity;
     m_document.events.breathingReported(true);
     if (m_document.elements.isValid(target)) // a listener may have changed the board
-        m_document.events.contentChanged(m_document.elements.at(target)->paintedRect());
+        m_document.events.contentChanged(m_document.elements.at(target)->paintedRect(), target);
 }
 
 void BreathingEffect::restoreOpacity(int index)
 {
     if (m_document.elements.isValid(index))
-        m_document.setElementOpacity(*m_document.elements.at(index), m_savedOpacity);
+        m_document.setElementOpacity(index, m_savedOpacity);
 }
 
 bool BreathingEffect::loneMarkMayBeFading() const
