@@ -101,17 +101,21 @@ void BreathingEffect::pulse()
     ++m_stepsDone;
     const double phase = static_cast<double>(m_stepsDone % m_stepsPerPeriod) / m_stepsPerPeriod;
     const double wave = (std::cos(2 * phase * kPi) + 1) * 0.5;
-    DrawingElement &target = *m_document.elements.at(m_pulseTarget);
-    const QRect area = target.paintedRect();
-    target.opacity = wave * (m_baseOpacity - kLowestOpacity) + kLowestOpacity;
-    m_document.events.breathingReported(true); // a listener may change the board
-    m_document.events.contentChanged(area);
+    const int target = m_pulseTarget;
+    DrawingElement *element = m_document.elements.at(target);
+    const QRect area = element->paintedRect();
+    element->opacity = wave * (m_baseOpacity - kLowestOpacity) + kLowestOpacity;
+    m_document.events.breathingReported(true);
+    // A listener may have changed the board, and then the element may lie elsewhere in the list.
+    const ElementList &elements = m_document.elements;
+    const bool stays = elements.isValid(target) && elements.at(target) == element;
+    m_document.events.contentChanged(area, stays ? target : 0);
 }
 
 void BreathingEffect::restoreOpacity(int index)
 {
     if (m_document.elements.isValid(index))
-        m_document.setElementOpacity(*m_document.elements.at(index), m_savedOpacity);
+        m_document.setElementOpacity(index, m_savedOpacity);
 }
 
 bool BreathingEffect::loneMarkMayBeFading() const

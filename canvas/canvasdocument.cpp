@@ -6,10 +6,11 @@ void CanvasDocument::addElement(ElementPtr element)
 {
     const QRect area = element->paintedRect();
     history.push({ HistoryEntry::Add, element->id });
+    const int index = elements.size();
     elements.append(std::move(element));
     history.clearRedo();
     reportBothStacks();
-    events.contentChanged(area);
+    events.contentChanged(area, index);
 }
 
 void CanvasDocument::removeElement(int index)
@@ -26,8 +27,19 @@ void CanvasDocument::reportBothStacks()
     events.redoStackChanged();
 }
 
-void CanvasDocument::setElementOpacity(DrawingElement &element, double opacity)
+void CanvasDocument::setElementOpacity(int index, double opacity)
 {
+    DrawingElement &element = *elements.at(index);
     element.opacity = opacity;
-    events.contentChanged(element.paintedRect());
+    events.contentChanged(element.paintedRect(), index);
+}
+
+void CanvasDocument::reportReshaped(const DrawingElement &element, const QRect &area)
+{
+    events.contentChanged(area, elements.placeOf(element));
+}
+
+void CanvasDocument::reportUnchanged()
+{
+    events.contentChanged(QRect(), elements.size());
 }

@@ -30,8 +30,12 @@ public:
     /// limits the history. Does not touch the redo stack.
     void removeElement(int index);
     void reportBothStacks();
-    /// Changes the opacity of an element that is in the list.
-    void setElementOpacity(DrawingElement &element, double opacity);
+    /// Changes the opacity of the element at a valid index.
+    void setElementOpacity(int index, double opacity);
+    /// Reports that this element, which may be gone from the list, looks different inside `area`.
+    void reportReshaped(const DrawingElement &element, const QRect &area);
+    /// Has the picture brought up to date, though no element looks different.
+    void reportUnchanged();
 
     ElementList elements;
     History history;

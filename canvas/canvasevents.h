@@ -16,6 +16,8 @@ public:
     virtual void elementCompleted(const QString &elementId) = 0;
     /// Breathing was found on or off; reported at every step of the pulse.
     virtual void breathingReported(bool on) = 0;
-    /// The list now paints differently inside `area` (canvas coordinates; may be empty).
-    virtual void contentChanged(const QRect &area) = 0;
+    /// The list now paints differently inside `area` (canvas coordinates; may be empty). The
+    /// elements below index `lowest` paint as before; 0 is always true.
+    virtual void contentChanged(const QRect &area, int lowest) = 0;
+    void contentChanged(const QRect &area) { contentChanged(area, 0); }
 };

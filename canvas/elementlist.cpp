@@ -2,6 +2,8 @@
 
 #include "elements/drawingelement.h"
 
+#include <algorithm>
+
 ElementList::ElementList() = default;
 ElementList::~ElementList() = default;
 
@@ -17,6 +19,13 @@ int ElementList::indexOf(const QString &id) const
             return i;
     }
     return kNotFound;
+}
+
+int ElementList::placeOf(const DrawingElement &element) const
+{
+    const auto place = std::find_if(m_elements.begin(), m_elements.end(),
+        [&](const ElementPtr &owned) { return owned.get() == &element; });
+    return static_cast<int>(place - m_elements.begin());
 }
 
 DrawingElement *ElementList::find(const QString &id) const

@@ -28,6 +28,8 @@ public:
 
     /// The first index whose element has this id, or `kNotFound`.
     [[nodiscard]] int indexOf(const QString &id) const;
+    /// The index of this very object; `size()` when the list does not own it.
+    [[nodiscard]] int placeOf(const DrawingElement &element) const;
     [[nodiscard]] bool contains(const QString &id) const { return indexOf(id) != kNotFound; }
     [[nodiscard]] DrawingElement *find(const QString &id) const;
     /// The index of the topmost element hit at `pos` within `tolerance` pixels, or `kNotFound`.

@@ -31,8 +31,8 @@ void FadeEffect::step()
         return;
     }
     const double progress = static_cast<double>(m_stepsDone) / kSteps;
-    m_document.setElementOpacity(*m_document.elements.at(kTarget),
-        std::max((1.0 - progress) * m_startOpacity, kLowestOpacity));
+    m_document.setElementOpacity(
+        kTarget, std::max((1.0 - progress) * m_startOpacity, kLowestOpacity));
     if (m_stepsDone < kSteps)
         return;
     qDebug() << CanvasLog::kFadeDone;

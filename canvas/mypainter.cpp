@@ -161,7 +161,7 @@ void MyPainter::redo()
 
 void MyPainter::historyMoved(const QRect &damage)
 {
-    contentChanged(damage);
+    contentChanged(damage, 0);
     m_document.reportBothStacks();
 }
 
@@ -344,9 +344,9 @@ void MyPainter::breathingReported(bool on)
     setIsBreath(on);
 }
 
-void MyPainter::contentChanged(const QRect &area)
+void MyPainter::contentChanged(const QRect &area, int lowest)
 {
-    m_renderer.contentChanged(area, canvasSize());
+    m_renderer.contentChanged(area, lowest, canvasSize());
     update();
 }
 

@@ -141,7 +141,7 @@ private:
     void selectionChanged() override;
     void elementCompleted(const QString &elementId) override;
     void breathingReported(bool on) override;
-    void contentChanged(const QRect &area) override;
+    void contentChanged(const QRect &area, int lowest) override;
 
     [[nodiscard]] QSize canvasSize() const;
     [[nodiscard]] qreal pixelRatio() const;

@@ -81,24 +81,28 @@ void PenInput::drawTo(const QPoint &target)
             return;
         }
     }
-    m_document.events.contentChanged(reshape(target));
+    reshape(target);
 }
 
-QRect PenInput::reshape(const QPoint &target)
+void PenInput::reshape(const QPoint &target)
 {
     DrawingElement *current = m_current.get();
-    if (!current)
-        return {};
+    if (!current) {
+        m_document.reportUnchanged();
+        return;
+    }
     // The curve is rebuilt at once: what can be seen can be hit, painted or not.
-    if (auto *stroke = dynamic_cast<FreehandElement *>(current))
-        return stroke->replacePoints(m_strokePoints);
+    if (auto *stroke = dynamic_cast<FreehandElement *>(current)) {
+        m_document.reportReshaped(*stroke, stroke->replacePoints(m_strokePoints));
+        return;
+    }
     const QRect before = current->paintedRect();
     if (auto *circle = dynamic_cast<CircleElement *>(current)) {
         circle->radius = distanceBetween(m_startPos, target);
     } else if (auto *shape = dynamic_cast<TwoPointElement *>(current)) {
         shape->end = target;
     }
-    return before | current->paintedRect();
+    m_document.reportReshaped(*current, before | current->paintedRect());
 }
 
 ElementPtr PenInput::createElement(const QPoint &target) const
@@ -140,11 +144,10 @@ void PenInput::end(const QPoint &pos, bool shiftPressed)
         return;
     if (!m_strokePoints.isEmpty() && m_strokePoints.constLast() != pos)
         m_strokePoints.append(pos);
-    const QRect damage = reshape(snapped(pos, shiftPressed));
+    reshape(snapped(pos, shiftPressed));
     const QString finishedId = m_current ? m_current->id : QString();
     m_current.reset();
     m_strokePoints.clear();
-    m_document.events.contentChanged(damage);
     if (!finishedId.isEmpty()) {
         qDebug() << CanvasLog::kElementAdded << finishedId;
         m_document.events.elementCompleted(finishedId);

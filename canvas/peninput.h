@@ -33,8 +33,8 @@ public:
 private:
     void eraseTo(const QPoint &previous, const QPoint &pos);
     void drawTo(const QPoint &target);
-    /// Gives the element in progress its geometry so far and returns the area that changed.
-    QRect reshape(const QPoint &target);
+    /// Gives the element in progress its geometry so far, and reports what changed.
+    void reshape(const QPoint &target);
     /// Null for tools whose marks are placed, not dragged.
     [[nodiscard]] ElementPtr createElement(const QPoint &target) const;
     [[nodiscard]] QPoint snapped(const QPoint &pos, bool shiftPressed) const;

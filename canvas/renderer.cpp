@@ -3,8 +3,12 @@
 #include "canvas/elementlist.h"
 #include "elements/drawingelement.h"
 
+#include <QDebug>
 #include <QPainter>
 
+#include <algorithm>
+#include <cstring>
+#include <limits>
 #include <utility>
 
 namespace
@@ -12,6 +16,9 @@ namespace
 
 constexpr QPainter::RenderHints kRenderHints =
     QPainter::Antialiasing | QPainter::SmoothPixmapTransform;
+constexpr int kNothingChanged = std::numeric_limits<int>::max();
+
+bool checksRepaints = false;
 
 void paintElement(QPainter &painter, const DrawingElement &element)
 {
@@ -33,12 +40,13 @@ QRect devicePixels(const QRect &area, qreal ratio)
 
 } // namespace
 
-void Renderer::contentChanged(const QRect &area, const QSize &size)
+void Renderer::contentChanged(const QRect &area, int lowest, const QSize &size)
 {
     if (m_staleAfterResize || m_picture.isNull() || size != m_size) {
         rebuild(size);
         return;
     }
+    m_lowest = std::min(m_lowest, lowest);
     m_damage |= area.intersected(QRect(QPoint(), size));
 }
 
@@ -67,9 +75,10 @@ const QImage &Renderer::picture()
 {
     if (std::exchange(m_rebuildPending, false))
         repaintAll();
-    else if (!m_damage.isEmpty())
+    else if (m_lowest != kNothingChanged)
         repaintDamage();
     m_damage = QRect();
+    m_lowest = kNothingChanged;
     return m_picture;
 }
 
@@ -90,6 +99,8 @@ QImage Renderer::emptyPicture(const QSize &size) const
 void Renderer::repaintAll()
 {
     m_picture = emptyPicture(m_size);
+    forgetBeneath();
+    m_paintedCount = m_elements.size();
     if (m_picture.isNull())
         return;
     QPainter painter(&m_picture);
@@ -99,22 +110,89 @@ void Renderer::repaintAll()
 
 void Renderer::repaintDamage()
 {
+    const int topmost = m_elements.size() - 1;
+    const int paintedCount = std::exchange(m_paintedCount, m_elements.size());
+    const bool onlyAppended = topmost == paintedCount && m_lowest >= paintedCount;
+    if (onlyAppended || m_lowest < m_beneathCount || m_beneathCount != topmost) {
+        forgetBeneath();
+        m_beneathCount = topmost;
+        m_picturesBeneath = onlyAppended;
+    }
     const QRect pixels =
         devicePixels(m_damage, m_picture.devicePixelRatio()).intersected(m_picture.rect());
     if (pixels.isEmpty())
         return;
+    if (topmost >= 0 && m_lowest >= topmost) {
+        repaintTopmost(pixels);
+    } else {
+        forgetBeneath();
+        repaint(pixels, topmost);
+    }
+    if (checksRepaints)
+        checkPicture();
+}
+
+void Renderer::repaintTopmost(const QRect &pixels)
+{
+    QRect changed = pixels;
+    if (m_picturesBeneath) {
+        m_beneath.saveMissing(m_picture, pixels);
+    } else if (!m_beneath.covers(pixels)) {
+        changed = SavedTiles::wholeTiles(pixels, m_picture.rect());
+        repaint(changed, m_beneathCount - 1);
+        m_beneath.saveMissing(m_picture, changed);
+    }
+    m_beneath.restore(m_picture, changed);
+    paintInto(changed, m_beneathCount, m_beneathCount);
+}
+
+void Renderer::repaint(const QRect &pixels, int last)
+{
+    const auto length = static_cast<std::size_t>(pixels.width()) * sizeof(QRgb);
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y)
+        std::memset(m_picture.scanLine(y) + pixels.left() * sizeof(QRgb), 0, length);
+    paintInto(pixels, 0, last);
+}
+
+void Renderer::paintInto(const QRect &pixels, int first, int last)
+{
+    const qreal ratio = m_picture.devicePixelRatio();
+    const QRect area = QRectF(
+        pixels.x() / ratio, pixels.y() / ratio, pixels.width() / ratio, pixels.height() / ratio)
+                           .toAlignedRect();
     QPainter painter(&m_picture);
     painter.setRenderHints(kRenderHints);
     // The clip is given in device pixels: a logical rectangle would cut through pixels at
     // fractional ratios.
-    painter.scale(1 / m_picture.devicePixelRatio(), 1 / m_picture.devicePixelRatio());
+    painter.scale(1 / ratio, 1 / ratio);
     painter.setClipRect(pixels);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(pixels, Qt::transparent);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.resetTransform();
-    for (const ElementPtr &element : m_elements) {
-        if (element->paintedRect().intersects(m_damage))
-            paintElement(painter, *element);
+    for (int i = first; i <= last; ++i) {
+        if (m_elements.at(i)->paintedRect().intersects(area))
+            paintElement(painter, *m_elements.at(i));
     }
+}
+
+void Renderer::forgetBeneath()
+{
+    m_beneath.clear();
+    m_beneathCount = -1;
+    m_picturesBeneath = false;
+}
+
+void Renderer::checkRepaints(bool on)
+{
+    checksRepaints = on;
+}
+
+void Renderer::checkPicture() const
+{
+    QImage whole = emptyPicture(m_size);
+    QPainter painter(&whole);
+    painter.setRenderHints(kRenderHints);
+    paintElements(painter, m_elements);
+    painter.end();
+    if (whole != m_picture)
+        qWarning() << "Repainting" << m_damage << "from element" << m_lowest
+                   << "on gave another picture than repainting everything";
 }

@@ -43,7 +43,7 @@ void Selection::select(DrawingElement *element)
     m_element = ElementRef(element);
     m_elementId = element ? element->id : QString();
     m_document.events.selectionChanged();
-    m_document.events.contentChanged(QRect());
+    m_document.reportUnchanged();
 }
 
 bool Selection::selectAt(const QPoint &pos)
@@ -101,11 +101,12 @@ template <typename Change> void Selection::transform(DrawingElement &element, Ch
     QRect damage = element.paintedRect();
     change(element);
     damage |= element.paintedRect();
+    const int place = m_document.elements.placeOf(element);
     if (before) {
         record(std::move(before), element);
         qDebug() << CanvasLog::kUndoNote;
     }
-    m_document.events.contentChanged(damage);
+    m_document.events.contentChanged(damage, place);
 }
 
 void Selection::record(ElementPtr before, const DrawingElement &element)

@@ -13,6 +13,13 @@ namespace
 {
 /// Device pixels; the rasterizer cuts lines off at about twice as far.
 constexpr QRectF kRasterRange(-16384, -16384, 32768, 32768);
+
+/// Unlike Qt's union, it does not leave out a rectangle without width or height.
+QRectF spanning(const QRectF &a, const QRectF &b)
+{
+    return { QPointF(std::min(a.left(), b.left()), std::min(a.top(), b.top())),
+        QPointF(std::max(a.right(), b.right()), std::max(a.bottom(), b.bottom())) };
+}
 } // namespace
 
 FreehandElement::FreehandElement(const QColor &penColor, int width, double penOpacity)
@@ -32,10 +39,10 @@ void FreehandElement::paint(QPainter *painter) const
         setUpPen(painter);
     }
     if (path.isEmpty() && points.size() > 1)
-        path = smoothedPath(points);
+        buildPath();
     if (!path.isEmpty())
         drawPath(painter);
-    else if (points.size() == 1)
+    else // all points are the same: a dot that was pressed without moving
         painter->drawPoint(points.first());
     painter->setCompositionMode(mode);
 }
@@ -65,7 +72,8 @@ QPainterPath FreehandElement::visiblePath(const QPainter &painter) const
     if (isTraced || isFar || !painter.hasClipping())
         return path;
     const double reach = penReach();
-    return segmentsNear(path, painter.clipBoundingRect().adjusted(-reach, -reach, reach, reach));
+    return segmentsNear(
+        path, stretches(), painter.clipBoundingRect().adjusted(-reach, -reach, reach, reach));
 }
 
 bool FreehandElement::contains(const QPoint &point, int tolerance) const
@@ -79,12 +87,13 @@ bool FreehandElement::contains(const QPoint &point, int tolerance) const
     }
     const double width = penWidth + 2.0 * tolerance;
     const double reach = std::max(width, 1.0);
-    if (!path.controlPointRect().adjusted(-reach, -reach, reach, reach).contains(p))
+    if (!pointsArea().adjusted(-reach, -reach, reach, reach).contains(p))
         return false;
     const QRectF around = QRectF(p, p).adjusted(-reach, -reach, reach, reach);
     QPainterPathStroker stroker;
     stroker.setWidth(width);
-    return stroker.createStroke(segmentsNear(path, around)).contains(p);
+    const QPainterPath nearby = segmentsNear(path, stretches(), around);
+    return !nearby.isEmpty() && stroker.createStroke(nearby).contains(p);
 }
 
 void FreehandElement::move(const QPoint &offset)
@@ -118,20 +127,36 @@ QRect FreehandElement::paintedRect() const
 {
     if (points.isEmpty())
         return {};
-    // The path knows its bounds, so the points of a finished stroke are not walked again.
-    const QRectF area = path.isEmpty() ? pointsArea() : path.controlPointRect();
-    return geometry::enclosingRect(area, penReach());
+    return geometry::enclosingRect(pointsArea(), penReach());
 }
 
 QRect FreehandElement::replacePoints(const QList<QPoint> &replacement)
 {
     const QRect before = paintedRect();
     const qsizetype drawn = points.size();
-    const bool grows = drawn <= replacement.size()
-        && std::equal(points.cbegin(), points.cend(), replacement.cbegin());
-    points = replacement;
-    rebuildPath();
+    const bool grows = isGrownTo(replacement);
+    if (grows)
+        grow(replacement);
+    else
+        points = replacement;
+    if (!grows)
+        rebuildPath();
+    m_growingCount = points.size();
     return grows ? paintedRectFrom(drawn) : before | paintedRect();
+}
+
+bool FreehandElement::isGrownTo(const QList<QPoint> &replacement) const
+{
+    const qsizetype drawn = points.size();
+    return drawn > 1 && drawn == m_growingCount && !path.isEmpty() && drawn <= replacement.size()
+        && points.constLast() == replacement.at(drawn - 1);
+}
+
+void FreehandElement::grow(const QList<QPoint> &replacement)
+{
+    const qsizetype drawn = points.size();
+    points.append(replacement.sliced(drawn));
+    extendSmoothedPath(path, points, drawn);
 }
 
 QRect FreehandElement::paintedRectFrom(qsizetype firstNewPoint) const
@@ -143,15 +168,43 @@ QRect FreehandElement::paintedRectFrom(qsizetype firstNewPoint) const
         return paintedRect();
     // The curve used to end half way between the last two of the old points.
     const qsizetype first = std::clamp<qsizetype>(firstNewPoint - 2, 0, points.size() - 1);
-    return geometry::enclosingRect(pointsArea(first), penReach());
+    return geometry::enclosingRect(areaOfPoints(first), penReach());
 }
 
 void FreehandElement::rebuildPath()
 {
-    path = smoothedPath(points);
+    m_growingCount = 0;
+    buildPath();
 }
 
-QRectF FreehandElement::pointsArea(qsizetype first) const
+void FreehandElement::buildPath() const
+{
+    path = smoothedPath(points);
+    m_stretches.clear();
+    m_indexedElements = 0;
+    m_areaCount = 0;
+}
+
+const StretchIndex &FreehandElement::stretches() const
+{
+    if (path.elementCount() < m_indexedElements)
+        m_stretches.clear();
+    m_stretches.extend(path);
+    m_indexedElements = path.elementCount();
+    return m_stretches;
+}
+
+QRectF FreehandElement::pointsArea() const
+{
+    if (path.isEmpty() || m_areaCount == 0 || m_areaCount > points.size())
+        m_area = areaOfPoints(0);
+    else if (m_areaCount < points.size())
+        m_area = spanning(m_area, areaOfPoints(m_areaCount));
+    m_areaCount = points.size();
+    return m_area;
+}
+
+QRectF FreehandElement::areaOfPoints(qsizetype first) const
 {
     const auto begin = points.cbegin() + first;
     const auto byX = [](const QPoint &a, const QPoint &b) { return a.x() < b.x(); };

@@ -2,6 +2,8 @@
 
 #include "elements/drawingelement.h"
 
+#include "elements/strokepath.h"
+
 #include <QList>
 #include <QPainterPath>
 
@@ -21,7 +23,8 @@ public:
     void scaleAxes(double factorX, double factorY, const QPoint &center) override;
     QRect paintedRect() const override;
     /// Takes these points, rebuilds the curve and answers every pixel that may have changed. While
-    /// a stroke grows that is only its end, however long it has become.
+    /// a stroke grows, each list being the one before with more points at its end, that is only its
+    /// end, and costs no more than its end does, however long it has become.
     QRect replacePoints(const QList<QPoint> &replacement);
     /// Builds the curve anew from the points.
     void rebuildPath();
@@ -33,12 +36,27 @@ public:
 
 private:
     /// The rectangle around the points from this index on; there must be one.
-    QRectF pointsArea(qsizetype first = 0) const;
+    QRectF areaOfPoints(qsizetype first) const;
+    /// The rectangle around all points; there must be one.
+    QRectF pointsArea() const;
+    /// Whether the points before were the first of these, and nobody has touched them since.
+    bool isGrownTo(const QList<QPoint> &replacement) const;
+    void grow(const QList<QPoint> &replacement);
+    /// Brings what is derived from the path up to date with it.
+    const StretchIndex &stretches() const;
     /// What changed since the stroke ended before this point.
     QRect paintedRectFrom(qsizetype firstNewPoint) const;
+    void buildPath() const;
     void drawPath(QPainter *painter) const;
     /// The path without what the painter's clip hides.
     QPainterPath visiblePath(const QPainter &painter) const;
     /// Replaces every point and rebuilds the path.
     template <typename Transform> void transformPoints(Transform transform);
+
+    qsizetype m_growingCount = 0; ///< points at the last `replacePoints`; 0 when touched since
+    // Derived from the path, for as long as it is not empty and has as many elements.
+    mutable StretchIndex m_stretches;
+    mutable int m_indexedElements = 0;
+    mutable QRectF m_area;
+    mutable qsizetype m_areaCount = 0; ///< points inside `m_area`
 };

@@ -17,6 +17,9 @@ constexpr int kLargestPointSize = 10000;
 // The text engine counts in 26.6 fixed point and wraps around at 2^25 pixels. A run of this length
 // at this distance stays far below that, also when the painter magnifies.
 constexpr int kTextRangePx = 1 << 21;
+// What the text engine takes for a run grows with the square of the marks stacked on one letter.
+constexpr qsizetype kLongestRun = 4096;
+constexpr qsizetype kLongestCluster = 64;
 // Antialiasing and hinting go beyond the measured ink by a pixel or two, in large sizes by more.
 constexpr double kInkMarginPx = 2.0;
 constexpr double kInkMarginShare = 0.1;
@@ -104,7 +107,8 @@ void TextLayout::measure(const QString &line, const QFontMetrics &metrics, doubl
 
 QStringList TextLayout::runsOf(const QString &line) const
 {
-    const qsizetype longest = std::max(1, kTextRangePx / std::max(1, m_lineHeight));
+    const qsizetype longest =
+        std::clamp<qsizetype>(kTextRangePx / std::max(1, m_lineHeight), 1, kLongestRun);
     if (line.size() <= longest)
         return { line };
     QStringList runs;
@@ -114,8 +118,8 @@ QStringList TextLayout::runsOf(const QString &line) const
         qsizetype to = boundaries.position();
         if (!boundaries.isAtBoundary())
             to = boundaries.toNextBoundary();
-        if (to <= from)
-            to = line.size();
+        if (to <= from || to > from + longest + kLongestCluster)
+            to = std::min(from + longest, line.size());
         runs.append(line.mid(from, to - from));
         from = to;
     }

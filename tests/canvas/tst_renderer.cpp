@@ -73,10 +73,10 @@ void TestRenderer::isNullUntilSomethingChanges()
     const ElementList elements;
     Renderer renderer(elements);
     QVERIFY(renderer.picture().isNull());
-    renderer.contentChanged(QRect(), kSize);
+    renderer.contentChanged(QRect(), 0, kSize);
     QCOMPARE(renderer.picture(), referencePicture(elements, kSize));
     QCOMPARE(renderer.picture().format(), QImage::Format_ARGB32);
-    renderer.contentChanged(QRect(), QSize(0, 90));
+    renderer.contentChanged(QRect(), 0, QSize(0, 90));
     QVERIFY(renderer.picture().isNull());
 }
 
@@ -103,7 +103,7 @@ void TestRenderer::partialRepaintsAreExact()
         } else {
             area = elements.append(randomMark(random))->paintedRect();
         }
-        renderer.contentChanged(area, kSize);
+        renderer.contentChanged(area, 0, kSize);
         QCOMPARE(renderer.picture(), referencePicture(elements, kSize, ratio));
     }
 }
@@ -119,10 +119,10 @@ void TestRenderer::repaintsOncePerFrameAndOnlyWhatIsTouched()
     const CountingLine *high = add(70);
     Renderer renderer(elements);
     renderer.rebuild(kSize);
-    renderer.contentChanged(low->paintedRect(), kSize);
+    renderer.contentChanged(low->paintedRect(), 0, kSize);
     static_cast<void>(renderer.picture());
     for (int i = 0; i < 5; ++i)
-        renderer.contentChanged(low->paintedRect(), kSize);
+        renderer.contentChanged(low->paintedRect(), 0, kSize);
     static_cast<void>(renderer.picture());
     static_cast<void>(renderer.picture());
     QCOMPARE(low->timesPainted, 2);
@@ -154,7 +154,7 @@ void TestRenderer::resizeKeepsTheOldPicture()
     const QImage blank = referencePicture(ElementList(), size, ratio);
     renderer.resize(size);
     QCOMPARE(renderer.picture(), size.isEmpty() ? QImage() : old.copy(blank.rect()));
-    renderer.contentChanged(QRect(), size);
+    renderer.contentChanged(QRect(), 0, size);
     QCOMPARE(renderer.picture(), referencePicture(elements, size, ratio));
 }
 

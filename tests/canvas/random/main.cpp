@@ -78,10 +78,12 @@ int main(int argc, char *argv[])
     const QCommandLineOption seedOption("seed", "Where the calls begin.", "number", "1");
     const QCommandLineOption callsOption("calls", "How many calls to play.", "number", "20000");
     const QCommandLineOption traceOption("trace", "Print every call before it is played.");
-    parser.addOptions({ seedOption, callsOption, traceOption });
+    const QCommandLineOption checkOption("check", "Let the canvas check its own repaints as well.");
+    parser.addOptions({ seedOption, callsOption, traceOption, checkOption });
     parser.addHelpOption();
     parser.process(application);
 
+    Renderer::checkRepaints(parser.isSet(checkOption));
     // Of the log only the complaints are of interest, and each of them is a difference.
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     const LogRecorder log;
