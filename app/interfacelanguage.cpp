@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QScopedValueRollback>
 
 namespace
 {
@@ -19,7 +20,10 @@ InterfaceLanguage::InterfaceLanguage()
 {
     QCoreApplication::instance()->installEventFilter(this);
     connect(LanguageManager::instance(), &LanguageManager::languageChanged, this,
-        &InterfaceLanguage::loadTextsOfQt);
+        [this](const QString &language) {
+            m_languageOfQt = language;
+            loadTextsOfQt();
+        });
 }
 
 InterfaceLanguage::~InterfaceLanguage()
@@ -30,19 +34,42 @@ InterfaceLanguage::~InterfaceLanguage()
 
 bool InterfaceLanguage::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange && watched == QCoreApplication::instance()) {
-        emit textsChanged();
+    if (event->type() == QEvent::LanguageChange && watched == QCoreApplication::instance()
+        && !m_loading) {
+        // Whatever is in effect now, the manager names it afterwards, or never when it failed.
+        m_languageOfQt.clear();
+        renewSoon();
     }
     return QObject::eventFilter(watched, event);
 }
 
-void InterfaceLanguage::loadTextsOfQt(const QString &language)
+void InterfaceLanguage::renewSoon()
 {
+    if (m_renewing) {
+        return;
+    }
+    m_renewing = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_renewing = false;
+            if (m_languageOfQt.isEmpty()) {
+                loadTextsOfQt();
+            }
+            emit textsChanged();
+        },
+        Qt::QueuedConnection);
+}
+
+void InterfaceLanguage::loadTextsOfQt()
+{
+    const QScopedValueRollback loading(m_loading, true);
     const QString directory = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
     for (std::size_t i = 0; i < m_textsOfQt.size(); ++i) {
         QTranslator &translator = m_textsOfQt.at(i);
         QCoreApplication::removeTranslator(&translator);
-        if (translator.load(QLocale(language), QLatin1String(kCataloguesOfQt.at(i)),
+        if (!m_languageOfQt.isEmpty()
+            && translator.load(QLocale(m_languageOfQt), QLatin1String(kCataloguesOfQt.at(i)),
                 QStringLiteral("_"), directory)) {
             QCoreApplication::installTranslator(&translator);
         }

@@ -18,11 +18,16 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
-    /// Some translator was installed or removed, also when a catalogue could not be loaded.
+    /// Translators were installed or removed, also when a catalogue could not be loaded. Once for
+    /// each change of the language, from the event loop.
     void textsChanged();
 
 private:
-    void loadTextsOfQt(const QString &language);
+    void renewSoon();
+    void loadTextsOfQt();
 
     std::array<QTranslator, 2> m_textsOfQt;
+    QString m_languageOfQt; ///< empty when no catalogue is in effect
+    bool m_loading = false;
+    bool m_renewing = false; ///< `textsChanged` is on its way
 };

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QSignalSpy>
 #include <QTest>
 
 /// A language chosen while the program runs reaches what is already on the screen.
@@ -59,17 +60,27 @@ void TestInterfaceLanguage::documentsAndTrayFollowEveryChange()
     const std::unique_ptr<QObject> document(component.create());
     QVERIFY2(document, qPrintable(component.errorString()));
 
-    const QList<QPair<QString, QString>> steps{
-        { QStringLiteral("en_US"), QStringLiteral("Exit") },
-        { QStringLiteral("ja_JP"), QStringLiteral("終了") },
-        // No catalogue: the source language.
-        { QStringLiteral("nosuch"), QStringLiteral("退出") },
-        { QStringLiteral("en_US"), QStringLiteral("Exit") },
+    struct Step {
+        QString code;
+        QString text;
+        QString textOfQt;
     };
-    for (const auto &[code, text] : steps) {
+    const QList<Step> steps{
+        { QStringLiteral("en_US"), QStringLiteral("Exit"), QStringLiteral("Cancel") },
+        { QStringLiteral("ja_JP"), QStringLiteral("終了"), QStringLiteral("キャンセル") },
+        // No catalogue: the source language of each.
+        { QStringLiteral("nosuch"), QStringLiteral("退出"), QStringLiteral("Cancel") },
+        { QStringLiteral("ja_JP"), QStringLiteral("終了"), QStringLiteral("キャンセル") },
+    };
+    for (const auto &[code, text, textOfQt] : steps) {
+        QSignalSpy changes(&language, &InterfaceLanguage::textsChanged);
         loadTranslation(qApp, code);
+        QVERIFY(changes.wait());
         QCOMPARE(document->property("text").toString(), text);
         QCOMPARE(exitText(), text);
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), textOfQt);
+        QCoreApplication::processEvents();
+        QCOMPARE(changes.size(), 1);
     }
 }
 

@@ -7,6 +7,8 @@ import desktop
 from PIL import Image
 
 WALLPAPER = (38, 70, 83)
+SUCCESS, ERROR = (223, 246, 221), (253, 231, 233)
+ONE_LINE = 48  # pixels: a notice without a path or a reason is lower
 
 
 def is_red(colour):
@@ -195,15 +197,33 @@ class DrawingTest(OverlayTestCase):
         self.desktop.pointer.click(300, 700)
         self.program.wait_for_log('内容: "next"')
 
-    def test_the_picture_is_saved_and_the_screen_says_where(self):
+    def test_saving_says_where_the_picture_is_or_why_there_is_none(self):
         self.start_drawing()
         self.desktop.pointer.drag([(300, 600), (500, 600)])
         self.wait_for_red(400, 600, "the stroke")
         self.desktop.keyboard.tap("Ctrl+S")
-        self.wait_for_pixel(640, 82, lambda colour: desktop.near(colour, (223, 246, 221), 20),
-                            "the green notice")
+        self.wait_for_notice(SUCCESS, "the notice of success")
         saved = [name for name in os.listdir(self.app_folder) if name.startswith("screenshot_")]
         self.assertEqual(len(saved), 1)
+
+        # Into a file nobody can put another one, not even the superuser.
+        os.rename(self.app_folder, self.app_folder + "-gone")
+        for folder in (self.app_folder, os.path.join(self.desktop.home, "Pictures")):
+            with open(folder, "wb"):
+                pass
+        self.desktop.keyboard.tap("Ctrl+S")
+        self.wait_for_notice(ERROR, "the notice of failure")
+
+    def wait_for_notice(self, colour, what):
+        """A bar of this colour, with the path or the reason below its head line."""
+        def look():
+            shot = self.desktop.screen.shot((480, 60, 320, 300))
+            rows = [y for y in range(shot.height)
+                    if desktop.near(shot.getpixel((shot.width // 2, y)), colour, 8)]
+            if len(rows) <= ONE_LINE:
+                raise AssertionError(f"{len(rows)} rows have the colour")
+            return True
+        self.wait_for(look, what)
 
 
 class MonitorsTest(OverlayTestCase):
