@@ -60,17 +60,12 @@ void TestInterfaceLanguage::documentsAndTrayFollowEveryChange()
     const std::unique_ptr<QObject> document(component.create());
     QVERIFY2(document, qPrintable(component.errorString()));
 
-    struct Step {
-        QString code;
-        QString text;
-        QString textOfQt;
-    };
-    const QList<Step> steps{
-        { QStringLiteral("en_US"), QStringLiteral("Exit"), QStringLiteral("Cancel") },
-        { QStringLiteral("ja_JP"), QStringLiteral("終了"), QStringLiteral("キャンセル") },
+    const std::tuple<QString, QString, QString> steps[] = {
+        { "en_US", "Exit", "Cancel" },
+        { "ja_JP", "終了", "キャンセル" },
         // No catalogue: the source language of each.
-        { QStringLiteral("nosuch"), QStringLiteral("退出"), QStringLiteral("Cancel") },
-        { QStringLiteral("ja_JP"), QStringLiteral("終了"), QStringLiteral("キャンセル") },
+        { "nosuch", "退出", "Cancel" },
+        { "ja_JP", "終了", "キャンセル" },
     };
     for (const auto &[code, text, textOfQt] : steps) {
         QSignalSpy changes(&language, &InterfaceLanguage::textsChanged);

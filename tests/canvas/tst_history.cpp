@@ -1,14 +1,10 @@
 #include "canvas/elementlist.h"
 #include "canvas/history.h"
 #include "canvas/logtexts.h"
-#include "elements/circleelement.h"
 #include "elements/cloneelement.h"
-#include "elements/freehandelement.h"
-#include "elements/lineelement.h"
-#include "elements/numberedcircleelement.h"
-#include "elements/textelement.h"
 #include "tests/canvas/common/logrecorder.h"
 #include "tests/canvas/common/testcanvas.h"
+#include "tests/elements/samples.h"
 
 #include <QTest>
 
@@ -20,7 +16,7 @@ struct Board {
     Board()
     {
         for (const auto *name : { "a", "b", "c" })
-            add(std::make_unique<LineElement>(QPoint(1, 2), QPoint(30, 40), Qt::red, 5, 1.0), name);
+            add(samples::make(DrawingElement::Line, QPoint(1, 2), QPoint(30, 40), {}), name);
     }
     void add(ElementPtr element, const QString &id)
     {
@@ -56,11 +52,6 @@ struct Board {
     QRect damage;
 };
 
-QString logged(const char *text, const char *id)
-{
-    return QStringLiteral("%1 \"%2\"").arg(QString::fromUtf8(text), QString::fromUtf8(id));
-}
-
 } // namespace
 
 class TestHistory : public QObject
@@ -68,68 +59,48 @@ class TestHistory : public QObject
     Q_OBJECT
 
 private slots:
-    void emptyStacksOnlySaySo();
     void additions();
-    void removedElementsComeBackOnTop_data();
     void removedElementsComeBackOnTop();
     void whatIsThereIsNotRestoredTwice();
     void eraserGroups();
     void redoneGroupKeepsWhatTheEraserLeftWithIt();
-    void modifications_data();
     void modifications();
     void transformsStayInTheirFirstState();
     void trimmingDropsTheOldest();
 };
 
-void TestHistory::emptyStacksOnlySaySo()
-{
-    const LogRecorder log;
-    Board board;
-    board.history.clear();
-    QVERIFY(!board.undo());
-    QVERIFY(!board.redo());
-    QCOMPARE(
-        LogRecorder::take(), QStringList({ CanvasLog::kNothingToUndo, CanvasLog::kNothingToRedo }));
-    QVERIFY(board.damage.isNull());
-}
-
 void TestHistory::additions()
 {
     const LogRecorder log;
     Board board;
+    QVERIFY(!board.redo());
+    QVERIFY(board.damage.isNull());
     QVERIFY(board.undo());
     QCOMPARE(board.state(), "ab AA A");
     QVERIFY(board.damage.contains(QRect(QPoint(1, 2), QPoint(30, 40))));
-    QVERIFY(board.undo());
-    QVERIFY(board.redo());
     QVERIFY(board.redo());
     QCOMPARE(board.state(), "abc AAA ");
+    board.history.clear();
+    QVERIFY(!board.undo());
     QCOMPARE(LogRecorder::take(),
-        QStringList({ CanvasLog::kUndo, logged(CanvasLog::kUndoAdd, "c"), CanvasLog::kUndo,
-            logged(CanvasLog::kUndoAdd, "b"), CanvasLog::kRedo, logged(CanvasLog::kRedoAdd, "b"),
-            CanvasLog::kRedo, logged(CanvasLog::kRedoAdd, "c") }));
-}
-
-void TestHistory::removedElementsComeBackOnTop_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("letter");
-    QTest::newRow("deleted") << int(HistoryEntry::Delete) << "D";
-    QTest::newRow("erased") << int(HistoryEntry::Erase) << "E";
+        QStringList({ CanvasLog::kNothingToRedo, CanvasLog::kUndo,
+            LogRecorder::line(CanvasLog::kUndoAdd, "c"), CanvasLog::kRedo,
+            LogRecorder::line(CanvasLog::kRedoAdd, "c"), CanvasLog::kNothingToUndo }));
 }
 
 void TestHistory::removedElementsComeBackOnTop()
 {
-    QFETCH(int, kind);
-    QFETCH(QString, letter);
-    Board board;
-    board.remove("a", HistoryEntry::Kind(kind));
-    QVERIFY(board.undo());
-    QCOMPARE(board.state(), "bca AAA " + letter);
-    QVERIFY(board.redo());
-    QCOMPARE(board.state(), "bc AAA" + letter + " ");
-    QVERIFY(board.undo());
-    QCOMPARE(board.state(), "bca AAA " + letter);
+    for (const auto kind : { HistoryEntry::Delete, HistoryEntry::Erase }) {
+        const QString letter = kind == HistoryEntry::Delete ? "D" : "E";
+        Board board;
+        board.remove("a", kind);
+        for (int i = 0; i < 2; ++i) {
+            QVERIFY(board.undo());
+            QCOMPARE(board.state(), "bca AAA " + letter);
+            QVERIFY(board.redo());
+            QCOMPARE(board.state(), "bc AAA" + letter + " ");
+        }
+    }
 }
 
 void TestHistory::whatIsThereIsNotRestoredTwice()
@@ -181,60 +152,34 @@ void TestHistory::redoneGroupKeepsWhatTheEraserLeftWithIt()
     known->element = board.elements.take("a");
     board.undo();
     board.redo();
-    QCOMPARE(LogRecorder::take().last(), logged(CanvasLog::kGroupElementMissing, "a"));
+    QCOMPARE(LogRecorder::take().last(), LogRecorder::line(CanvasLog::kGroupElementMissing, "a"));
     QCOMPARE(board.state(), "bc AAAGE ");
     board.undo();
     QCOMPARE(board.state(), "bca AAAG E");
 }
 
-void TestHistory::modifications_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::newRow("line") << int(DrawingElement::Line);
-    QTest::newRow("circle") << int(DrawingElement::Circle);
-    QTest::newRow("text") << int(DrawingElement::Text);
-    QTest::newRow("number") << int(DrawingElement::NumberedCircle);
-    QTest::newRow("freehand") << int(DrawingElement::Freehand);
-}
-
 void TestHistory::modifications()
 {
-    QFETCH(int, kind);
-    const auto make = [=]() -> ElementPtr {
-        switch (kind) {
-        case DrawingElement::Line:
-            return std::make_unique<LineElement>(QPoint(1, 2), QPoint(30, 40), Qt::red, 5, 1.0);
-        case DrawingElement::Circle:
-            return std::make_unique<CircleElement>(QPoint(20, 20), 10, Qt::red, 5, 1.0);
-        case DrawingElement::Text:
-            return std::make_unique<TextElement>(QPoint(5, 5), "text", 20, Qt::red, 5, 1.0);
-        case DrawingElement::NumberedCircle:
-            return std::make_unique<NumberedCircleElement>(QPoint(9, 9), 3, Qt::red, 5, 1.0);
-        default:
-            auto stroke = std::make_unique<FreehandElement>(Qt::red, 5, 1.0);
-            stroke->points = { QPoint(1, 1), QPoint(20, 30) };
-            return stroke;
-        }
-    };
-    Board board;
-    board.add(make(), "m");
-    DrawingElement *live = board.elements.last();
-    const QRect original = live->boundingRect();
-    ElementPtr before = copyOf(live);
-    live->scale(2.0, QPoint(0, 0));
-    live->move(QPoint(3, 4));
-    const QRect changed = live->boundingRect();
-    board.history.push({ HistoryEntry::Modify, "m", nullptr, std::move(before), copyOf(live) });
+    for (const DrawingElement::Kind kind : samples::kAllKinds) {
+        Board board;
+        board.add(samples::make(kind, QPoint(1, 2), QPoint(30, 40), {}), "m");
+        DrawingElement *live = board.elements.last();
+        const QRect original = live->boundingRect();
+        ElementPtr before = copyOf(live);
+        live->scale(2.0, QPoint(0, 0));
+        live->move(QPoint(3, 4));
+        const QRect changed = live->boundingRect();
+        board.history.push({ HistoryEntry::Modify, "m", nullptr, std::move(before), copyOf(live) });
 
-    const bool keepsShape = kind == DrawingElement::Freehand;
-    board.undo();
-    QCOMPARE(board.elements.last(), live);
-    QCOMPARE(live->boundingRect(), keepsShape ? changed : original);
-    board.redo();
-    QCOMPARE(live->boundingRect(), changed);
-    QCOMPARE(board.state(), "abcm AAAAM ");
-    board.undo();
-    QCOMPARE(board.state(), "abcm AAAA M");
+        const bool keepsShape = kind == DrawingElement::Freehand;
+        board.undo();
+        QCOMPARE(board.elements.last(), live);
+        QCOMPARE(live->boundingRect(), keepsShape ? changed : original);
+        QCOMPARE(board.state(), "abcm AAAA M");
+        board.redo();
+        QCOMPARE(live->boundingRect(), changed);
+        QCOMPARE(board.state(), "abcm AAAAM ");
+    }
 }
 
 void TestHistory::transformsStayInTheirFirstState()

@@ -9,26 +9,20 @@
 #include <QPainter>
 #include <QTest>
 
-#include <functional>
 #include <limits>
 
 namespace
 {
 
-QImage shown(TestCanvas &canvas, const QSize &size = QSize(200, 150))
+/// True when the canvas leaves what is behind it as it is.
+bool showsNothing(TestCanvas &canvas)
 {
-    QImage image(size, QImage::Format_ARGB32);
-    image.fill(Qt::white);
+    QImage white(200, 150, QImage::Format_ARGB32);
+    white.fill(Qt::white);
+    QImage image = white;
     QPainter painter(&image);
     canvas.paint(&painter);
-    return image;
-}
-
-QImage white(const QSize &size = QSize(200, 150))
-{
-    QImage image(size, QImage::Format_ARGB32);
-    image.fill(Qt::white);
-    return image;
+    return image == white;
 }
 
 } // namespace
@@ -38,36 +32,13 @@ class TestMyPainter : public QObject
     Q_OBJECT
 
 private slots:
-    void startsAsDocumented();
     void settersCompare();
     void opacityIsClamped();
     void eraserAndDrawModeExcludeEachOther();
     void paintsNothingBeforeTheFirstPicture();
-    void smallResizesChangeNothing();
-    void resizedPictureLastsUntilTheContentChanges_data();
-    void resizedPictureLastsUntilTheContentChanges();
     void clearForgetsEverything();
     void historySignals();
 };
-
-void TestMyPainter::startsAsDocumented()
-{
-    const LogRecorder log;
-    const MyPainter canvas;
-    QCOMPARE(LogRecorder::take(), QStringList(CanvasLog::kCreated));
-    QCOMPARE(canvas.penSize(), 5);
-    QCOMPARE(canvas.penColor(), QColor(Qt::red));
-    QCOMPARE(canvas.penOpacity(), 1.0);
-    QCOMPARE(canvas.textSize(), 20);
-    QCOMPARE(canvas.textToDraw(), QString());
-    QCOMPARE(canvas.drawMode(), int(MyPainter::FreehandMode));
-    QCOMPARE(canvas.fadeOutTime(), 0);
-    QVERIFY(!canvas.isBreath() && !canvas.isEraserMode() && !canvas.canUndo() && !canvas.canRedo());
-    QCOMPARE(canvas.renderTarget(), QQuickPaintedItem::Image);
-    QVERIFY(canvas.antialiasing());
-    QCOMPARE(
-        MyPainter().getExePath(), QDir::toNativeSeparators(QCoreApplication::applicationDirPath()));
-}
 
 void TestMyPainter::settersCompare()
 {
@@ -87,6 +58,7 @@ void TestMyPainter::settersCompare()
     canvas.setIsBreath(true);
     QCOMPARE(recorder.take(), QStringList({ "isBreathChanged", "isBreathChanged" }));
     QVERIFY(!canvas.setProperty("canUndo", true));
+    QCOMPARE(canvas.getExePath(), QDir::toNativeSeparators(QCoreApplication::applicationDirPath()));
 }
 
 void TestMyPainter::opacityIsClamped()
@@ -125,92 +97,12 @@ void TestMyPainter::eraserAndDrawModeExcludeEachOther()
 void TestMyPainter::paintsNothingBeforeTheFirstPicture()
 {
     TestCanvas canvas{ QSizeF() };
-    QCOMPARE(shown(canvas), white());
+    QVERIFY(showsNothing(canvas));
     canvas.setSize(QSizeF(200, 150));
     canvas.line(QPoint(10, 10), QPoint(90, 90));
-    QVERIFY(shown(canvas) != white());
+    QVERIFY(!showsNothing(canvas));
     canvas.forceUpdateImage();
     QCOMPARE(canvas.cachedPicture().size(), QSize(200, 150));
-}
-
-void TestMyPainter::smallResizesChangeNothing()
-{
-    TestCanvas canvas;
-    canvas.line(QPoint(10, 10), QPoint(190, 140));
-    const qint64 key = canvas.cachedPicture().cacheKey();
-    canvas.setSize(QSizeF(200.9, 151));
-    QCOMPARE(canvas.cachedPicture().cacheKey(), key);
-    canvas.setSize(QSizeF(202, 151));
-    QCOMPARE(canvas.cachedPicture().size(), QSize(202, 151));
-}
-
-void TestMyPainter::resizedPictureLastsUntilTheContentChanges_data()
-{
-    using Action = std::function<void(TestCanvas &)>;
-    QTest::addColumn<Action>("action");
-    QTest::addColumn<bool>("repaints");
-    const auto row = [](const char *name, const Action &action, bool repaints) {
-        QTest::newRow(name) << action << repaints;
-    };
-    row(
-        "press", [](TestCanvas &canvas) { canvas.beginPaint(QPoint(1, 1)); }, false);
-    row(
-        "erasing nothing",
-        [](TestCanvas &canvas) {
-            canvas.setIsEraserMode(true);
-            canvas.movePaint(QPoint(5, 140), false);
-        },
-        true);
-    row(
-        "moving nothing",
-        [](TestCanvas &canvas) {
-            canvas.setDrawMode(MyPainter::TextMode);
-            canvas.movePaint(QPoint(5, 140), false);
-        },
-        true);
-    row(
-        "releasing nothing", [](TestCanvas &canvas) { canvas.endPaint(QPoint(), false); }, true);
-    row(
-        "nothing hit", [](TestCanvas &canvas) { canvas.deleteElement(QPoint(5, 140)); }, false);
-    row(
-        "nothing to redo", [](TestCanvas &canvas) { canvas.redo(); }, false);
-    row(
-        "selecting", [](TestCanvas &canvas) { canvas.selectLastElement(); }, true);
-    row(
-        "a tick",
-        [](TestCanvas &canvas) {
-            canvas.undoGradient();
-            canvas.tick();
-        },
-        true);
-    row(
-        "leaving the line tool", [](TestCanvas &canvas) { canvas.setDrawMode(0); }, false);
-    row(
-        "leaving the arrow tool",
-        [](TestCanvas &canvas) {
-            canvas.setDrawMode(MyPainter::ArrowMode);
-            canvas.setDrawMode(0);
-        },
-        true);
-    row(
-        "no text", [](TestCanvas &canvas) { canvas.addText(" ", 1, 1, 20); }, false);
-}
-
-void TestMyPainter::resizedPictureLastsUntilTheContentChanges()
-{
-    using Action = std::function<void(TestCanvas &)>;
-    QFETCH(Action, action);
-    TestCanvas canvas;
-    canvas.line(QPoint(10, 10), QPoint(290, 90));
-    const QImage old = canvas.cachedPicture();
-    canvas.setSize(QSizeF(300, 150));
-    const QImage resized = old.copy(QRect(0, 0, 300, 150));
-    QCOMPARE(canvas.cachedPicture(), resized);
-    action(canvas);
-    const QImage fresh = referencePicture(canvas.elements(), QSize(300, 150));
-    QVERIFY(fresh != resized);
-    QFETCH(bool, repaints);
-    QCOMPARE(canvas.cachedPicture(), repaints ? fresh : resized);
 }
 
 void TestMyPainter::clearForgetsEverything()
@@ -235,7 +127,7 @@ void TestMyPainter::clearForgetsEverything()
     QCOMPARE(LogRecorder::take(), QStringList({ CanvasLog::kClearStarted, CanvasLog::kClearDone }));
     QVERIFY(!canvas.isBreath() && !canvas.canUndo() && !canvas.canRedo());
     QVERIFY(!canvas.hasSelectedElement());
-    QCOMPARE(shown(canvas), white());
+    QVERIFY(showsNothing(canvas));
     canvas.movePaint(QPoint(50, 50), false); // clearing in mid-gesture starts a new one
     QCOMPARE(canvas.elements().size(), 1);
     canvas.selectLastElement();

@@ -1,9 +1,6 @@
 #include "canvas/logtexts.h"
-#include "elements/circleelement.h"
 #include "elements/freehandelement.h"
 #include "elements/lineelement.h"
-#include "elements/numberedcircleelement.h"
-#include "elements/textelement.h"
 #include "tests/canvas/common/logrecorder.h"
 #include "tests/canvas/common/signalrecorder.h"
 #include "tests/canvas/common/testcanvas.h"
@@ -15,12 +12,7 @@
 namespace
 {
 
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-
-QString with(const char *text, const QString &id)
-{
-    return QStringLiteral("%1 \"%2\"").arg(QString::fromUtf8(text), id);
-}
+constexpr auto *with = &LogRecorder::line;
 
 } // namespace
 
@@ -31,16 +23,10 @@ class TestSelection : public QObject
 private slots:
     void selects();
     void movesScalesAndRotates();
-    void lengthsTakeTheMeanFactor();
-    void refusals_data();
     void refusals();
     void everyTransformIsOneStep();
     void batchIsOneStep();
-    void batchOfNothing();
     void batchEndsOverAnotherSelection();
-    void batchOutlivesTheRedoStack();
-    void followsItsElementThroughTheHistory();
-    void endsWithItsElement();
 };
 
 void TestSelection::selects()
@@ -109,71 +95,33 @@ void TestSelection::movesScalesAndRotates()
     QVERIFY(canvas.deleteElement(QPoint(70, 20), 2)); // hit where it is now
 }
 
-void TestSelection::lengthsTakeTheMeanFactor()
-{
-    TestCanvas canvas;
-    canvas.drag(MyPainter::CircleMode, { QPoint(50, 50), QPoint(60, 50) });
-    canvas.selectLastElement();
-    canvas.scaleSelectedElement(2.0, 1.0);
-    QCOMPARE(canvas.top<CircleElement>()->radius, 15);
-    canvas.rotateSelectedElement(30);
-    QCOMPARE(canvas.top<CircleElement>()->radius, 15);
-    canvas.addText("text", 10, 10, 11);
-    canvas.selectLastElement();
-    canvas.scaleSelectedElement(2.0, 1.0);
-    QCOMPARE(canvas.top<TextElement>()->fontSize, 16);
-    canvas.drag(MyPainter::NumberedCircleMode, { QPoint(50, 50) });
-    canvas.selectLastElement();
-    const QSizeF size = canvas.getSelectedElementBoundingRect().size();
-    canvas.scaleSelectedElement(3.0, 2.0);
-    QCOMPARE(canvas.getSelectedElementBoundingRect().size(), size);
-}
-
-void TestSelection::refusals_data()
-{
-    using Action = std::function<void(MyPainter &)>;
-    QTest::addColumn<Action>("action");
-    QTest::addColumn<QString>("reason");
-    const QString factor = CanvasLog::kBadFactor;
-    const auto row = [](const char *name, const Action &action, const QString &reason) {
-        QTest::newRow(name) << action << reason;
-    };
-    row(
-        "0", [](MyPainter &canvas) { canvas.scaleSelectedElement(0); }, factor);
-    row(
-        "negative", [](MyPainter &canvas) { canvas.scaleSelectedElement(-1); }, factor);
-    row(
-        "not a number", [](MyPainter &canvas) { canvas.scaleSelectedElement(kNan); }, factor);
-    row(
-        "one axis", [](MyPainter &canvas) { canvas.scaleSelectedElement(1, 0); }, factor);
-    row(
-        "no angle", [](MyPainter &canvas) { canvas.rotateSelectedElement(kNan); },
-        CanvasLog::kBadAngle);
-}
-
 void TestSelection::refusals()
 {
+    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
     using Action = std::function<void(MyPainter &)>;
-    QFETCH(Action, action);
-    QFETCH(QString, reason);
-    TestCanvas canvas;
-    canvas.line(QPoint(20, 20), QPoint(60, 40));
-    canvas.undo();
-    canvas.line(QPoint(20, 20), QPoint(60, 40));
-    canvas.selectLastElement();
-    const QRectF bounds = canvas.getSelectedElementBoundingRect();
-    SignalRecorder recorder(canvas, MyPainter::staticMetaObject);
-    const LogRecorder log;
-    action(canvas);
-    QCOMPARE(LogRecorder::take(), QStringList(reason));
-    QCOMPARE(canvas.getSelectedElementBoundingRect(), bounds);
-    QCOMPARE(canvas.undoKinds(), "A");
-    canvas.clearSelection();
-    static_cast<void>(recorder.take());
-    static_cast<void>(LogRecorder::take());
-    action(canvas);
-    QCOMPARE(LogRecorder::take(), QStringList(CanvasLog::kNothingSelected));
-    QVERIFY(recorder.take().isEmpty());
+    const std::pair<Action, const char *> rows[] = {
+        { [](auto &canvas) { canvas.scaleSelectedElement(0); }, CanvasLog::kBadFactor },
+        { [](auto &canvas) { canvas.scaleSelectedElement(-1); }, CanvasLog::kBadFactor },
+        { [](auto &canvas) { canvas.scaleSelectedElement(kNan); }, CanvasLog::kBadFactor },
+        { [](auto &canvas) { canvas.scaleSelectedElement(1, 0); }, CanvasLog::kBadFactor },
+        { [](auto &canvas) { canvas.rotateSelectedElement(kNan); }, CanvasLog::kBadAngle },
+    };
+    for (const auto &[act, reason] : rows) {
+        TestCanvas canvas;
+        canvas.line(QPoint(20, 20), QPoint(60, 40));
+        canvas.selectLastElement();
+        const QRectF bounds = canvas.getSelectedElementBoundingRect();
+        const LogRecorder log;
+        act(canvas);
+        QCOMPARE(LogRecorder::take(), QStringList(reason));
+        QCOMPARE(canvas.getSelectedElementBoundingRect(), bounds);
+        QCOMPARE(canvas.undoKinds(), "A");
+        canvas.clearSelection();
+        SignalRecorder recorder(canvas, MyPainter::staticMetaObject);
+        act(canvas);
+        QCOMPARE(LogRecorder::take().last(), CanvasLog::kNothingSelected);
+        QVERIFY(recorder.take().isEmpty());
+    }
 }
 
 void TestSelection::everyTransformIsOneStep()
@@ -226,14 +174,7 @@ void TestSelection::batchIsOneStep()
     QCOMPARE(canvas.undoKinds(), "AT");
     canvas.undo();
     QCOMPARE(canvas.top<LineElement>()->start, QPoint(20, 20));
-}
 
-void TestSelection::batchOfNothing()
-{
-    TestCanvas canvas;
-    const QString id = canvas.line(QPoint(20, 20), QPoint(60, 40))->id;
-    canvas.selectLastElement();
-    const LogRecorder log;
     canvas.beginTransformBatch();
     canvas.translateSelectedElement(9, 0);
     canvas.translateSelectedElement(-9, 0);
@@ -267,58 +208,6 @@ void TestSelection::batchEndsOverAnotherSelection()
     canvas.undo(); // nothing is lost: the first is back where it was, the second stays
     QCOMPARE(canvas.ids(), QStringList({ second, first }));
     QCOMPARE(canvas.top<LineElement>()->start, QPoint(20, 20));
-}
-
-void TestSelection::batchOutlivesTheRedoStack()
-{
-    TestCanvas canvas;
-    const QString id = canvas.line(QPoint(20, 20), QPoint(60, 40))->id;
-    canvas.selectLastElement();
-    canvas.beginTransformBatch();
-    canvas.translateSelectedElement(7, 7);
-    canvas.undo(); // now only the redo stack holds the element
-    canvas.endTransformBatch();
-    QCOMPARE(canvas.undoKinds(), "T");
-    QVERIFY(!canvas.hasSelectedElement());
-    canvas.undo();
-    QCOMPARE(canvas.ids(), QStringList(id));
-    QVERIFY(canvas.hasSelectedElement());
-}
-
-void TestSelection::followsItsElementThroughTheHistory()
-{
-    TestCanvas canvas;
-    canvas.line(QPoint(20, 20), QPoint(60, 40));
-    canvas.selectLastElement();
-    canvas.translateSelectedElement(30, 30);
-    canvas.undo(); // puts another object on the board
-    QVERIFY(canvas.hasSelectedElement());
-    canvas.translateSelectedElement(1, 0);
-    QCOMPARE(canvas.top<LineElement>()->start, QPoint(21, 20));
-    QVERIFY(canvas.deleteElement(QPoint(40, 30)));
-    canvas.translateSelectedElement(1, 0); // acts on the removed element
-    canvas.undo();
-    QCOMPARE(canvas.elements().size(), 1);
-    QCOMPARE(canvas.top<LineElement>()->start, QPoint(21, 20));
-}
-
-void TestSelection::endsWithItsElement()
-{
-    TestCanvas canvas;
-    canvas.line(QPoint(20, 20), QPoint(60, 40));
-    canvas.selectLastElement();
-    QVERIFY(canvas.deleteElement(QPoint(40, 30)));
-    QVERIFY(canvas.hasSelectedElement()); // it is still there, in the history
-    for (int i = 0; i < History::kTrimmedSize; ++i) {
-        canvas.line(QPoint(100, 20), QPoint(100, 40));
-        QVERIFY(canvas.deleteElement(QPoint(100, 30)));
-    }
-    QVERIFY(!canvas.hasSelectedElement());
-    const LogRecorder log;
-    canvas.translateSelectedElement(1, 1);
-    canvas.beginTransformBatch();
-    QCOMPARE(LogRecorder::take(),
-        QStringList({ CanvasLog::kNothingSelected, CanvasLog::kBatchNeedsSelection }));
 }
 
 QTEST_MAIN(TestSelection)

@@ -69,11 +69,8 @@ public:
     double scaledBy = 0.0;
 };
 
-using Make = ElementPtr (*)();
 using Change = void (*)(DrawingElement &);
 } // namespace
-Q_DECLARE_METATYPE(Make)
-Q_DECLARE_METATYPE(Change)
 
 class TestDrawingElement : public QObject
 {
@@ -82,15 +79,10 @@ class TestDrawingElement : public QObject
 private slots:
     void identities();
     void referencesFollowTheObject();
-    void copies_data();
     void copies();
-    void copiesOfErasersErase();
     void unknownKinds();
-    void transforms_data();
     void transforms();
-    void bounds_data();
     void bounds();
-    void hits_data();
     void hits();
     void strokesStartStraightAndEndHalfWay();
 };
@@ -119,37 +111,25 @@ void TestDrawingElement::referencesFollowTheObject()
     QVERIFY(!second.get());
 }
 
-void TestDrawingElement::copies_data()
-{
-    QTest::addColumn<DrawingElement::Kind>("kind");
-    for (const DrawingElement::Kind kind : samples::kAllKinds)
-        QTest::addRow("%s", samples::nameOf(kind)) << kind;
-}
-
 void TestDrawingElement::copies()
 {
-    QFETCH(DrawingElement::Kind, kind);
     const samples::Pen pen{ QColor(10, 20, 30, 200), 9, 0.6 };
-    const ElementPtr source = samples::make(kind, QPoint(30, 20), QPoint(90, 70), pen);
-    const ElementPtr copy = copyOf(source.get());
+    for (const DrawingElement::Kind kind : samples::kAllKinds) {
+        const ElementPtr source = samples::make(kind, QPoint(30, 20), QPoint(90, 70), pen);
+        source->isEraser = kind == DrawingElement::Freehand;
+        const ElementPtr copy = copyOf(source.get());
+        QCOMPARE(copy->type, qint32(kind));
+        QCOMPARE(copy->id, source->id);
+        QCOMPARE(copy->isEraser, source->isEraser);
+        QCOMPARE(geometryOf(*copy), geometryOf(*source));
+        const QSize size(200, 150);
+        QCOMPARE(samples::painted(*copy, size), samples::painted(*source, size));
 
-    QCOMPARE(copy->type, qint32(kind));
-    QCOMPARE(copy->id, source->id);
-    QCOMPARE(geometryOf(*copy), geometryOf(*source));
-    const QSize size(200, 150);
-    QCOMPARE(samples::painted(*copy, size), samples::painted(*source, size));
-
-    const QString before = geometryOf(*source);
-    copy->move(QPoint(5, 5));
-    QVERIFY(geometryOf(*copy) != before);
-    QCOMPARE(geometryOf(*source), before);
-}
-
-void TestDrawingElement::copiesOfErasersErase()
-{
-    const ElementPtr stroke = samples::freehand({ QPoint(1, 2) }, {});
-    stroke->isEraser = true;
-    QVERIFY(copyOf(stroke.get())->isEraser);
+        const QString before = geometryOf(*source);
+        copy->move(QPoint(5, 5));
+        QVERIFY(geometryOf(*copy) != before);
+        QCOMPARE(geometryOf(*source), before);
+    }
 }
 
 void TestDrawingElement::unknownKinds()
@@ -162,202 +142,113 @@ void TestDrawingElement::unknownKinds()
     QVERIFY(square.paintedRect().contains(QRect(3, 3, 34, 34)));
 }
 
-void TestDrawingElement::transforms_data()
-{
-    QTest::addColumn<Make>("make");
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char *name, Make make, Change change, const char *expected) {
-        QTest::newRow(name) << make << change << QString::fromLatin1(expected);
-    };
-    const Make square = [] { return shape<RectangleElement>(QPoint(0, 0), QPoint(10, 10), 3); };
-    const Make ring = [] { return circle(QPoint(3, -5), 5, 3); };
-    const Make words = [] { return text(QPoint(4, 8), QStringLiteral("a"), 20); };
-    const Make marker = [] { return number(QPoint(10, 20), 3); };
-    const Make stroke = [] { return drawn({ QPoint(1, 1), QPoint(4, 3), QPoint(-4, -3) }, 3); };
-
-    row(
-        "move two points", square, [](auto &e) { e.move(QPoint(-3, 4)); }, "-3,4 7,14");
-    row(
-        "scale two points", square, [](auto &e) { e.scale(0.25, QPoint(0, 10)); }, "0,8 3,10");
-    row(
-        "scale axes of two points", square, [](auto &e) { e.scaleAxes(2, 0.5, QPoint(5, 5)); },
-        "-5,3 15,8");
-    row(
-        "a rotated rectangle stays upright", square, [](auto &e) { e.rotate(45, QPoint(5, 5)); },
-        "5,-2 5,12");
-    row(
-        "move a circle", ring, [](auto &e) { e.move(QPoint(1, 1)); }, "4,-4 r5");
-    row(
-        "a radius is cut off, a centre rounded", ring, [](auto &e) { e.scale(0.5, QPoint()); },
-        "2,-3 r2");
-    row(
-        "a radius takes the mean", ring, [](auto &e) { e.scaleAxes(2, 1, QPoint()); }, "6,-5 r7");
-    row(
-        "rotation leaves a radius", ring, [](auto &e) { e.rotate(90, QPoint()); }, "5,3 r5");
-    row(
-        "scale a text", words, [](auto &e) { e.scale(0.55, QPoint(4, 8)); }, "4,8 pt11");
-    row(
-        "a font size takes the mean", words, [](auto &e) { e.scaleAxes(1, 1.65, QPoint(0, 0)); },
-        "4,13 pt26");
-    row(
-        "rotate a text", words, [](auto &e) { e.rotate(-90, QPoint(0, 0)); }, "8,-4 pt20");
-    row(
-        "a number keeps its size", marker, [](auto &e) { e.scale(3, QPoint(0, 0)); }, "30,60 #12");
-    row(
-        "scale a stroke about its first point", stroke, [](auto &e) { e.scale(2, QPoint(1, 1)); },
-        "1,1 7,5 -9,-7");
-    row(
-        "scale axes of a stroke", stroke, [](auto &e) { e.scaleAxes(1, 0.5, QPoint(0, 0)); },
-        "1,1 4,2 -4,-2");
-    row(
-        "rotate a stroke", stroke, [](auto &e) { e.rotate(180, QPoint(0, 0)); }, "-1,-1 -4,-3 4,3");
-    row(
-        "an angle without a value", stroke, [](auto &e) { e.rotate(NAN, QPoint(0, 0)); },
-        "1,1 4,3 -4,-3");
-}
-
 void TestDrawingElement::transforms()
 {
-    QFETCH(Make, make);
-    QFETCH(Change, change);
-    const ElementPtr element = make();
-    const int width = element->penWidth;
-    change(*element);
-    QTEST(geometryOf(*element), "expected");
-    QCOMPARE(element->penWidth, width);
-
-    // What is painted follows the stored numbers, whatever was cached before.
-    const ElementPtr copy = copyOf(element.get());
-    if (auto *stroke = dynamic_cast<FreehandElement *>(copy.get()))
-        stroke->path = {};
-    const QSize size(120, 120);
-    QCOMPARE(samples::painted(*element, size, QPoint(-30, -30)),
-        samples::painted(*copy, size, QPoint(-30, -30)));
-}
-
-void TestDrawingElement::bounds_data()
-{
-    QTest::addColumn<Make>("make");
-    QTest::addColumn<QRect>("expected");
-    const auto row = [](const char *name, Make make, const QRect &expected) {
-        QTest::newRow(name) << make << expected;
+    struct Row {
+        ElementPtr element;
+        Change change;
+        const char *expected;
     };
-    row(
-        "line, odd width", [] { return shape<LineElement>(QPoint(30, 5), QPoint(10, 25), 5); },
-        QRect(8, 3, 25, 25));
-    row(
-        "rectangle", [] { return shape<RectangleElement>(QPoint(0, 0), QPoint(10, 20), 4); },
-        QRect(-2, -2, 14, 24));
-    row(
-        "circle, odd width", [] { return circle(QPoint(50, 60), 20, 5); }, QRect(28, 38, 44, 44));
-    row(
-        "thin arrow", [] { return shape<ArrowElement>(QPoint(0, 0), QPoint(40, 0), 7); },
-        QRect(-18, -18, 76, 36));
-    row(
-        "wide arrow", [] { return shape<ArrowElement>(QPoint(0, 0), QPoint(40, 0), 8); },
-        QRect(-20, -20, 80, 40));
-    row(
-        "number, odd width", [] { return number(QPoint(50, 50), 5); }, QRect(36, 36, 30, 30));
-    row(
-        "stroke",
-        [] {
-            return drawn({ QPoint(5, 9), QPoint(-5, 1), QPoint(0, 4) }, 5);
-        },
-        QRect(-7, -1, 15, 13));
-    row(
-        "empty stroke", [] { return drawn({}, 5); }, QRect());
-    row(
-        "empty text", [] { return text(QPoint(20, 30), QString(), 20); }, QRect(15, 25, 10, 10));
+    const auto square = [] { return shape<RectangleElement>({ 0, 0 }, { 10, 10 }, 3); };
+    const auto ring = [] { return circle(QPoint(3, -5), 5, 3); };
+    const auto words = [] { return text(QPoint(4, 8), "a", 20); };
+    const auto stroke = [] { return drawn({ { 1, 1 }, { 4, 3 }, { -4, -3 } }, 3); };
+    const Row rows[] = {
+        { square(), [](auto &e) { e.move(QPoint(-3, 4)); }, "-3,4 7,14" },
+        { square(), [](auto &e) { e.scale(0.25, QPoint(0, 10)); }, "0,8 3,10" },
+        { square(), [](auto &e) { e.scaleAxes(2, 0.5, QPoint(5, 5)); }, "-5,3 15,8" },
+        // A rectangle stays upright.
+        { square(), [](auto &e) { e.rotate(45, QPoint(5, 5)); }, "5,-2 5,12" },
+        // A radius is cut off, a centre is rounded.
+        { ring(), [](auto &e) { e.scale(0.5, QPoint()); }, "2,-3 r2" },
+        { ring(), [](auto &e) { e.scaleAxes(2, 1, QPoint()); }, "6,-5 r7" },
+        { ring(), [](auto &e) { e.rotate(90, QPoint()); }, "5,3 r5" },
+        { words(), [](auto &e) { e.scale(0.55, QPoint(4, 8)); }, "4,8 pt11" },
+        { words(), [](auto &e) { e.scaleAxes(1, 1.65, QPoint()); }, "4,13 pt26" },
+        { words(), [](auto &e) { e.rotate(-90, QPoint()); }, "8,-4 pt20" },
+        { number(QPoint(10, 20), 3), [](auto &e) { e.scale(3, QPoint()); }, "30,60 #12" },
+        { stroke(), [](auto &e) { e.scale(2, QPoint(1, 1)); }, "1,1 7,5 -9,-7" },
+        { stroke(), [](auto &e) { e.scaleAxes(1, 0.5, QPoint()); }, "1,1 4,2 -4,-2" },
+        { stroke(), [](auto &e) { e.rotate(180, QPoint()); }, "-1,-1 -4,-3 4,3" },
+        { stroke(), [](auto &e) { e.rotate(NAN, QPoint()); }, "1,1 4,3 -4,-3" },
+    };
+    for (const auto &[element, change, expected] : rows) {
+        const int width = element->penWidth;
+        change(*element);
+        QCOMPARE(geometryOf(*element), expected);
+        QCOMPARE(element->penWidth, width);
+        // What is painted follows the stored numbers, whatever was cached before.
+        const ElementPtr copy = copyOf(element.get());
+        if (auto *freehand = dynamic_cast<FreehandElement *>(copy.get()))
+            freehand->path = {};
+        const QSize size(120, 120);
+        QCOMPARE(samples::painted(*element, size, QPoint(-30, -30)),
+            samples::painted(*copy, size, QPoint(-30, -30)));
+    }
 }
 
 void TestDrawingElement::bounds()
 {
-    QFETCH(Make, make);
-    QTEST(make()->boundingRect(), "expected");
-}
-
-void TestDrawingElement::hits_data()
-{
-    QTest::addColumn<Make>("make");
-    QTest::addColumn<int>("tolerance");
-    QTest::addColumn<QList<QPoint>>("inside");
-    QTest::addColumn<QList<QPoint>>("outside");
-    using Points = QList<QPoint>;
-    const auto row = [](const char *name, Make make, int tolerance, const Points &inside,
-                         const Points &outside) {
-        QTest::newRow(name) << make << tolerance << inside << outside;
-    };
-    row("line", [] { return shape<LineElement>(QPoint(0, 0), QPoint(100, 0), 2); }, 10,
-        { { 50, 12 }, { -12, 0 }, { 112, 0 } }, { { 50, 13 }, { -13, 0 }, { 109, 9 } });
-    row("a slanted line runs ahead",
-        [] {
-            return shape<LineElement>({ 0, 0 }, { 1, 1 }, 1);
-        },
-        0, { { 1, 1 }, { 2, 1 } }, { { 2, 2 }, { 0, -2 } });
-    row("line without length", [] { return shape<LineElement>(QPoint(5, 5), QPoint(5, 5), 9); },
-        100, {}, { { 5, 5 } });
-    row("rectangle, whatever its width",
-        [] { return shape<RectangleElement>(QPoint(100, 80), QPoint(0, 0), 20); }, 3,
-        { { -3, -3 }, { 50, 3 }, { 50, 77 }, { 103, 83 }, { 97, 40 } },
-        { { 50, 40 }, { -4, 0 }, { 50, 4 }, { 50, 84 }, { 96, 40 } });
-    row("circle", [] { return circle(QPoint(0, 0), 50, 4); }, 3,
-        { { 57, 0 }, { 0, -43 }, { 30, 40 } }, { { 58, 0 }, { 0, 42 }, { 0, 0 } });
-    row("small circle", [] { return circle(QPoint(0, 0), 5, 4); }, 3, { { 0, 0 }, { 12, 0 } },
-        { { 13, 0 } });
-    row("arrow head beside its shaft",
-        [] { return shape<ArrowElement>(QPoint(0, 0), QPoint(100, 0), 1); }, 0,
-        { { 86, 6 }, { 100, 0 }, { 50, 1 }, { 85, 7 }, { 100, 0 } },
-        { { 86, 8 }, { 82, 1 }, { 82, 0 }, { 98, 3 }, { 80, 2 } });
-    row("arrow head with tolerance",
-        [] { return shape<ArrowElement>(QPoint(0, 0), QPoint(100, 0), 8); }, 2,
-        { { 82, 0 }, { 84, 10 }, { 101, 0 } }, { { 81, 0 }, { 84, 11 }, { 111, 0 } });
-    row("arrow without length",
-        [] {
-            return shape<ArrowElement>({ 5, 5 }, { 5, 5 }, 9);
-        },
-        100, {}, { { 5, 5 } });
-    row("number is a disc", [] { return number(QPoint(50, 50), 40); }, 2,
-        { { 50, 50 }, { 64, 50 }, { 50, 36 } }, { { 65, 50 }, { 60, 60 } });
-    row("stroke not painted yet",
-        [] {
-            return samples::freehand({ { 0, 0 }, { 40, 0 } }, { Qt::red, 4, 1.0 });
-        },
-        2, { { 6, 0 }, { 40, -6 } }, { { 7, 0 }, { 20, 0 } });
-    row("stroke",
-        [] {
-            return drawn({ { 0, 0 }, { 40, 0 } }, 4);
-        },
-        2, { { 20, 0 }, { 20, 3 }, { 20, -3 } }, { { 20, 5 }, { 20, -5 }, { 46, 0 } });
-    row("inside of a bend",
-        [] {
-            return drawn({ { 0, 0 }, { 40, 0 }, { 40, 40 } }, 2);
-        },
-        1, { { 39, 20 } }, { { 30, 10 } });
-    row("dot", [] { return drawn({ { 3, 3 } }, 4); }, 2, { { 9, 3 } }, { { 10, 3 }, { 8, 8 } });
-    row("empty stroke", [] { return drawn({}, 4); }, 100, {}, { { 0, 0 } });
-    row("empty text", [] { return text(QPoint(20, 30), QString(), 20); }, 2,
-        { { 13, 23 }, { 26, 36 } }, { { 12, 30 }, { 27, 30 }, { 20, 37 }, { 20, 22 } });
+    const QPoint origin;
+    QCOMPARE(shape<LineElement>({ 30, 5 }, { 10, 25 }, 5)->boundingRect(), QRect(8, 3, 25, 25));
+    QCOMPARE(shape<RectangleElement>(origin, { 10, 20 }, 4)->boundingRect(), QRect(-2, -2, 14, 24));
+    QCOMPARE(circle({ 50, 60 }, 20, 5)->boundingRect(), QRect(28, 38, 44, 44));
+    QCOMPARE(shape<ArrowElement>(origin, { 40, 0 }, 7)->boundingRect(), QRect(-18, -18, 76, 36));
+    QCOMPARE(shape<ArrowElement>(origin, { 40, 0 }, 8)->boundingRect(), QRect(-20, -20, 80, 40));
+    QCOMPARE(number({ 50, 50 }, 5)->boundingRect(), QRect(36, 36, 30, 30));
+    QCOMPARE(drawn({ { 5, 9 }, { -5, 1 }, { 0, 4 } }, 5)->boundingRect(), QRect(-7, -1, 15, 13));
+    QCOMPARE(drawn({}, 5)->boundingRect(), QRect());
+    QCOMPARE(text({ 20, 30 }, QString(), 20)->boundingRect(), QRect(15, 25, 10, 10));
 }
 
 void TestDrawingElement::hits()
 {
-    QFETCH(Make, make);
-    QFETCH(int, tolerance);
-    QFETCH(QList<QPoint>, inside);
-    QFETCH(QList<QPoint>, outside);
-    const ElementPtr element = make();
-    const auto complaint = [](const QPoint &p, const char *what) {
-        return QStringLiteral("%1,%2 is %3")
-            .arg(p.x())
-            .arg(p.y())
-            .arg(QLatin1String(what))
-            .toUtf8();
+    struct Row {
+        const char *name;
+        ElementPtr element;
+        int tolerance;
+        QList<QPoint> inside;
+        QList<QPoint> outside;
     };
-    for (const QPoint &p : inside)
-        QVERIFY2(element->contains(p, tolerance), complaint(p, "missed"));
-    for (const QPoint &p : outside)
-        QVERIFY2(!element->contains(p, tolerance), complaint(p, "hit"));
+    const QPoint origin;
+    const Row rows[] = {
+        { "line", shape<LineElement>(origin, { 100, 0 }, 2), 10,
+            { { 50, 12 }, { -12, 0 }, { 112, 0 } }, { { 50, 13 }, { -13, 0 }, { 109, 9 } } },
+        { "a slanted line runs ahead", shape<LineElement>(origin, { 1, 1 }, 1), 0,
+            { { 1, 1 }, { 2, 1 } }, { { 2, 2 }, { 0, -2 } } },
+        { "line without length", shape<LineElement>({ 5, 5 }, { 5, 5 }, 9), 100, {}, { { 5, 5 } } },
+        { "rectangle, whatever its width", shape<RectangleElement>({ 100, 80 }, origin, 20), 3,
+            { { -3, -3 }, { 50, 3 }, { 50, 77 }, { 103, 83 }, { 97, 40 } },
+            { { 50, 40 }, { -4, 0 }, { 50, 4 }, { 50, 84 }, { 96, 40 } } },
+        { "circle", circle(origin, 50, 4), 3, { { 57, 0 }, { 0, -43 }, { 30, 40 } },
+            { { 58, 0 }, { 0, 42 }, origin } },
+        { "small circle", circle(origin, 5, 4), 3, { origin, { 12, 0 } }, { { 13, 0 } } },
+        { "arrow head beside its shaft", shape<ArrowElement>(origin, { 100, 0 }, 1), 0,
+            { { 86, 6 }, { 100, 0 }, { 50, 1 }, { 85, 7 } },
+            { { 86, 8 }, { 82, 1 }, { 82, 0 }, { 98, 3 }, { 80, 2 } } },
+        { "arrow head with tolerance", shape<ArrowElement>(origin, { 100, 0 }, 8), 2,
+            { { 82, 0 }, { 84, 10 }, { 101, 0 } }, { { 81, 0 }, { 84, 11 }, { 111, 0 } } },
+        { "arrow without length", shape<ArrowElement>({ 5, 5 }, { 5, 5 }, 9), 100, {},
+            { { 5, 5 } } },
+        { "number is a disc", number({ 50, 50 }, 40), 2, { { 50, 50 }, { 64, 50 }, { 50, 36 } },
+            { { 65, 50 }, { 60, 60 } } },
+        { "stroke not painted yet", samples::freehand({ origin, { 40, 0 } }, { Qt::red, 4, 1.0 }),
+            2, { { 6, 0 }, { 40, -6 } }, { { 7, 0 }, { 20, 0 } } },
+        { "stroke", drawn({ origin, { 40, 0 } }, 4), 2, { { 20, 0 }, { 20, 3 }, { 20, -3 } },
+            { { 20, 5 }, { 20, -5 }, { 46, 0 } } },
+        { "inside of a bend", drawn({ origin, { 40, 0 }, { 40, 40 } }, 2), 1, { { 39, 20 } },
+            { { 30, 10 } } },
+        { "dot", drawn({ { 3, 3 } }, 4), 2, { { 9, 3 } }, { { 10, 3 }, { 8, 8 } } },
+        { "empty stroke", drawn({}, 4), 100, {}, { origin } },
+        { "empty text", text({ 20, 30 }, QString(), 20), 2, { { 13, 23 }, { 26, 36 } },
+            { { 12, 30 }, { 27, 30 }, { 20, 37 }, { 20, 22 } } },
+    };
+    for (const auto &[name, element, tolerance, inside, outside] : rows) {
+        for (const QPoint &p : inside)
+            QVERIFY2(element->contains(p, tolerance), name);
+        for (const QPoint &p : outside)
+            QVERIFY2(!element->contains(p, tolerance), name);
+    }
 }
 
 void TestDrawingElement::strokesStartStraightAndEndHalfWay()

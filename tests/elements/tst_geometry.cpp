@@ -18,66 +18,37 @@ class TestGeometry : public QObject
     Q_OBJECT
 
 private slots:
-    void scales_data();
     void scales();
-    void rotates_data();
     void rotates();
     void lengthsAreCutOff();
     void rectanglesBeyondIntKeepTheirCentre();
 };
 
-void TestGeometry::scales_data()
-{
-    QTest::addColumn<QPoint>("point");
-    QTest::addColumn<QPointF>("factors");
-    QTest::addColumn<QPoint>("center");
-    QTest::addColumn<QPoint>("expected");
-
-    QTest::newRow("half up, away from zero")
-        << QPoint(5, -5) << QPointF(0.5, 0.5) << QPoint() << QPoint(3, -3);
-    QTest::newRow("the sum is rounded")
-        << QPoint(-5, -6) << QPointF(0.5, 0.5) << QPoint(-6, -5) << QPoint(-6, -6);
-    QTest::newRow("axes apart") << QPoint(10, 10) << QPointF(2, 0.5) << QPoint(5, 5)
-                                << QPoint(15, 8);
-    QTest::newRow("huge") << QPoint(1 << 30, -(1 << 30)) << QPointF(1e9, 1e9) << QPoint()
-                          << QPoint(kIntMax, kIntMin);
-    QTest::newRow("tiny") << QPoint(1 << 30, -(1 << 30)) << QPointF(1e-9, 1e-9) << QPoint(7, 7)
-                          << QPoint(8, 6);
-    QTest::newRow("not a number") << QPoint(3, 4) << QPointF(kNan, 2) << QPoint() << QPoint(3, 4);
-    QTest::newRow("endless") << QPoint(3, 4) << QPointF(2, kInfinity) << QPoint(3, 4)
-                             << QPoint(3, 4);
-}
-
 void TestGeometry::scales()
 {
-    QFETCH(QPoint, point);
-    QFETCH(QPointF, factors);
-    QFETCH(QPoint, center);
-    QTEST(geometry::scaled(point, factors.x(), factors.y(), center), "expected");
-}
-
-void TestGeometry::rotates_data()
-{
-    QTest::addColumn<QPoint>("point");
-    QTest::addColumn<double>("angle");
-    QTest::addColumn<QPoint>("center");
-    QTest::addColumn<QPoint>("expected");
-
-    QTest::newRow("clockwise") << QPoint(17, 9) << 90.0 << QPoint(7, 9) << QPoint(7, 19);
-    QTest::newRow("back") << QPoint(7, 19) << -90.0 << QPoint(7, 9) << QPoint(17, 9);
-    QTest::newRow("corner up") << QPoint(0, 0) << 45.0 << QPoint(5, 5) << QPoint(5, -2);
-    QTest::newRow("corner down") << QPoint(10, 10) << 45.0 << QPoint(5, 5) << QPoint(5, 12);
-    QTest::newRow("far away") << QPoint(kIntMax, kIntMax) << 135.0 << QPoint()
-                              << QPoint(kIntMin, 0);
-    QTest::newRow("not a number") << QPoint(1, 2) << kNan << QPoint() << QPoint(1, 2);
+    const auto scaled = [](const QPoint &point, double factorX, double factorY,
+                            const QPoint &center = {}) {
+        return geometry::scaled(point, factorX, factorY, center);
+    };
+    // Halves go away from zero, and it is the sum that is rounded.
+    QCOMPARE(scaled({ 5, -5 }, 0.5, 0.5), QPoint(3, -3));
+    QCOMPARE(scaled({ -5, -6 }, 0.5, 0.5, { -6, -5 }), QPoint(-6, -6));
+    QCOMPARE(scaled({ 10, 10 }, 2, 0.5, { 5, 5 }), QPoint(15, 8));
+    const QPoint far(1 << 30, -(1 << 30));
+    QCOMPARE(scaled(far, 1e9, 1e9), QPoint(kIntMax, kIntMin));
+    QCOMPARE(scaled(far, 1e-9, 1e-9, { 7, 7 }), QPoint(8, 6));
+    QCOMPARE(scaled({ 3, 4 }, kNan, 2), QPoint(3, 4));
+    QCOMPARE(scaled({ 3, 4 }, 2, kInfinity, { 3, 4 }), QPoint(3, 4));
 }
 
 void TestGeometry::rotates()
 {
-    QFETCH(QPoint, point);
-    QFETCH(double, angle);
-    QFETCH(QPoint, center);
-    QTEST(geometry::rotated(point, angle, center), "expected");
+    QCOMPARE(geometry::rotated({ 17, 9 }, 90, { 7, 9 }), QPoint(7, 19)); // clockwise
+    QCOMPARE(geometry::rotated({ 7, 19 }, -90, { 7, 9 }), QPoint(17, 9));
+    QCOMPARE(geometry::rotated({ 0, 0 }, 45, { 5, 5 }), QPoint(5, -2));
+    QCOMPARE(geometry::rotated({ 10, 10 }, 45, { 5, 5 }), QPoint(5, 12));
+    QCOMPARE(geometry::rotated({ kIntMax, kIntMax }, 135, {}), QPoint(kIntMin, 0));
+    QCOMPARE(geometry::rotated({ 1, 2 }, kNan, {}), QPoint(1, 2));
 }
 
 void TestGeometry::lengthsAreCutOff()

@@ -60,7 +60,6 @@ private slots:
     void hitsAreThoseOfTheWholeOutline_data() { addScribbles(); }
     void hitsAreThoseOfTheWholeOutline();
     void farSegmentsAreLeftOut();
-    void erasersKeepWhatTheyGoAround();
 };
 
 void TestStrokePath::clippedPaintingIsAPieceOfTheWhole()
@@ -138,21 +137,6 @@ void TestStrokePath::farSegmentsAreLeftOut()
     QVERIFY(segmentsNear(path, index, QRectF(500, 50, 10, 10)).isEmpty());
     QCOMPARE(segmentsNear(path, index, path.boundingRect()), path);
     QVERIFY(segmentsNear(QPainterPath(), StretchIndex(), QRectF(0, 0, 10, 10)).isEmpty());
-}
-
-void TestStrokePath::erasersKeepWhatTheyGoAround()
-{
-    const ElementPtr around =
-        samples::freehand({ { 10, 10 }, { 90, 10 }, { 90, 90 }, { 10, 90 } }, { Qt::red, 8, 1.0 });
-    around->isEraser = true;
-    QImage image = samples::blank(QSize(100, 100));
-    image.fill(Qt::green);
-    QPainter painter(&image);
-    painter.setBrush(QColor(Qt::transparent));
-    around->paint(&painter);
-    painter.end();
-    QCOMPARE(image.pixelColor(50, 10).alpha(), 0);
-    QCOMPARE(image.pixelColor(60, 40), QColor(Qt::green));
 }
 
 QTEST_MAIN(TestStrokePath)

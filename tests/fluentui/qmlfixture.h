@@ -5,6 +5,7 @@
 #include <QQmlExpression>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -17,12 +18,13 @@ class QmlFixture
 public:
     explicit QmlFixture(const QByteArray &body)
     {
-        m_engine.addImportPath(QStringLiteral(":/qt/qml"));
+        QTest::failOnWarning(QRegularExpression("."));
+        m_engine.addImportPath(":/qt/qml");
         QQmlComponent component(&m_engine);
         component.setData("import QtQuick\nimport FluentUI\n"
                           "Window { id: window; width: 500; height: 600; visible: true\n"
                 + body + "}",
-            QUrl(QStringLiteral("qrc:/fixture.qml")));
+            QUrl("qrc:/fixture.qml"));
         m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
         if (!m_window)
             qFatal("%s", qPrintable(component.errorString()));
@@ -41,6 +43,9 @@ public:
             qWarning().noquote() << expression.error().toString();
         return value;
     }
+    QString text(const QString &code) { return eval(code).toString(); }
+    int number(const QString &code) { return eval(code).toInt(); }
+    bool holds(const QString &code) { return eval(code).toBool(); }
     QQuickItem *item(const QString &code) { return eval(code).value<QQuickItem *>(); }
 
     static QPoint center(const QQuickItem *item)
@@ -51,6 +56,10 @@ public:
     {
         awaitFrame();
         QTest::mouseClick(m_window.get(), button, Qt::NoModifier, center(item));
+    }
+    void click(const QString &code, Qt::MouseButton button = Qt::LeftButton)
+    {
+        click(item(code), button);
     }
     /// Layouts and lists put their items in place before a frame is drawn.
     void awaitFrame()

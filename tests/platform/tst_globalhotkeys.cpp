@@ -70,7 +70,7 @@ private:
 
 void setLayout(const char *name)
 {
-    QCOMPARE(QProcess::execute(QStringLiteral("setxkbmap"), { QString::fromLatin1(name) }), 0);
+    QCOMPARE(QProcess::execute("setxkbmap", { QString::fromLatin1(name) }), 0);
 }
 
 } // namespace
@@ -81,18 +81,14 @@ class TestGlobalHotKeys : public QObject
 
 private Q_SLOTS:
     void init();
-    void cleanup();
 
-    void firesWithAnyLockKeyOn_data();
     void firesWithAnyLockKeyOn();
-    void firesForNamedKeys_data();
     void firesForNamedKeys();
     void firesOncePerPress();
     void firesAllOwners();
     void leavesNothingBoundAfterAChange();
     void noticesAnotherHolder();
     void followsTheLayout();
-    void leavesTypingToOtherPrograms_data();
     void leavesTypingToOtherPrograms();
     void typingKeysWorkInOwnWindows();
     void leavesEditingKeysToATextEditor();
@@ -114,11 +110,6 @@ void TestGlobalHotKeys::init()
     m_other->tap({ XK_Shift_L });
 }
 
-void TestGlobalHotKeys::cleanup()
-{
-    m_other.reset();
-}
-
 /// What happened on the keyboard before has been handled when this returns.
 void TestGlobalHotKeys::awaitEarlierEvents()
 {
@@ -137,82 +128,65 @@ void TestGlobalHotKeys::show(TestWindow &window)
     QTRY_COMPARE(QGuiApplication::focusWindow(), &window);
 }
 
-void TestGlobalHotKeys::firesWithAnyLockKeyOn_data()
-{
-    QTest::addColumn<QList<uint32_t>>("locks");
-    QTest::newRow("none") << QList<uint32_t>{};
-    QTest::newRow("caps") << QList<uint32_t>{ XK_Caps_Lock };
-    QTest::newRow("num") << QList<uint32_t>{ XK_Num_Lock };
-    QTest::newRow("scroll") << QList<uint32_t>{ XK_Scroll_Lock };
-    QTest::newRow("all") << QList<uint32_t>{ XK_Caps_Lock, XK_Num_Lock, XK_Scroll_Lock };
-}
-
 void TestGlobalHotKeys::firesWithAnyLockKeyOn()
 {
-    QFETCH(const QList<uint32_t>, locks);
     m_other->setModifier(XCB_MAP_INDEX_3, m_other->codeOf(XK_Scroll_Lock));
-    CountedKey letter("Ctrl+E");
-    CountedKey shifted("Ctrl+Shift+Alt+7");
-    CountedKey super("Meta+F5");
-    QVERIFY(letter.registered && shifted.registered && super.registered);
+    const QList<uint32_t> allLocks{ XK_Caps_Lock, XK_Num_Lock, XK_Scroll_Lock };
+    for (const QList<uint32_t> &locks :
+        { {}, allLocks.mid(0, 1), allLocks.mid(1, 1), allLocks.mid(2, 1), allLocks }) {
+        CountedKey letter("Ctrl+E");
+        CountedKey shifted("Ctrl+Shift+Alt+7");
+        CountedKey super("Meta+F5");
+        QVERIFY(letter.registered && shifted.registered && super.registered);
 
-    for (const uint32_t lock : locks)
-        m_other->tap({ lock });
-    m_other->tap({ XK_Control_L, XK_e });
-    m_other->tap({ XK_Alt_L, XK_Control_L, XK_Shift_L, XK_7 });
-    m_other->tap({ XK_Super_L, XK_F5 });
-    QTRY_COMPARE(letter.presses.count(), 1);
-    QTRY_COMPARE(shifted.presses.count(), 1);
-    QTRY_COMPARE(super.presses.count(), 1);
+        for (const uint32_t lock : locks)
+            m_other->tap({ lock });
+        m_other->tap({ XK_Control_L, XK_e });
+        m_other->tap({ XK_Alt_L, XK_Control_L, XK_Shift_L, XK_7 });
+        m_other->tap({ XK_Super_L, XK_F5 });
+        QTRY_COMPARE(letter.presses.count(), 1);
+        QTRY_COMPARE(shifted.presses.count(), 1);
+        QTRY_COMPARE(super.presses.count(), 1);
 
-    m_other->tap({ XK_Alt_L, XK_Control_L, XK_e });
-    for (const uint32_t lock : locks)
-        m_other->tap({ lock });
-    awaitEarlierEvents();
-    QCOMPARE(letter.presses.count(), 1);
+        m_other->tap({ XK_Alt_L, XK_Control_L, XK_e });
+        for (const uint32_t lock : locks)
+            m_other->tap({ lock });
+        awaitEarlierEvents();
+        QCOMPARE(letter.presses.count(), 1);
+    }
     setLayout("us");
-}
-
-void TestGlobalHotKeys::firesForNamedKeys_data()
-{
-    QTest::addColumn<QByteArray>("sequence");
-    QTest::addColumn<QList<uint32_t>>("pressed");
-    const auto row = [](const char *sequence, const QList<uint32_t> &pressed) {
-        QTest::newRow(sequence) << QByteArray(sequence) << pressed;
-    };
-    row("Print", { XK_Print });
-    row("F1", { XK_F1 });
-    row("Shift+F12", { XK_Shift_L, XK_F12 });
-    row("Pause", { XK_Pause });
-    row("Volume Up", { XF86XK_AudioRaiseVolume });
-    row("Ctrl+PgUp", { XK_Control_L, XK_Prior });
-    row("Ctrl+PgDown", { XK_Control_L, XK_Next });
-    row("Ctrl+Insert", { XK_Control_L, XK_Insert });
-    row("Alt+Delete", { XK_Alt_L, XK_Delete });
-    row("Ctrl+Esc", { XK_Control_L, XK_Escape });
-    row("Meta+Backspace", { XK_Super_L, XK_BackSpace });
-    row("Ctrl+Return", { XK_Control_L, XK_Return });
-    row("Ctrl+Space", { XK_Control_L, XK_space });
-    row("Ctrl+Shift+Left", { XK_Control_L, XK_Shift_L, XK_Left });
-    row("Ctrl+Shift+Tab", { XK_Control_L, XK_Shift_L, XK_Tab });
-    row("Ctrl+[", { XK_Control_L, XK_bracketleft });
-    row("Ctrl+!", { XK_Control_L, XK_Shift_L, XK_1 });
-    row("Ctrl+Home", { XK_Control_L, XK_KP_Home });
-    row("Ctrl+1", { XK_Num_Lock, XK_Control_L, XK_KP_End });
-    row("Ctrl+*", { XK_Control_L, XK_KP_Multiply });
 }
 
 void TestGlobalHotKeys::firesForNamedKeys()
 {
-    QFETCH(const QByteArray, sequence);
-    QFETCH(const QList<uint32_t>, pressed);
-    CountedKey key(sequence.constData());
-    QVERIFY(key.registered);
-    m_other->tap(pressed);
-    QTRY_COMPARE(key.presses.count(), 1);
-    if (pressed.startsWith(XK_Num_Lock))
-        m_other->tap({ XK_Num_Lock });
-
+    struct Row {
+        const char *sequence;
+        QList<uint32_t> pressed;
+    };
+    const Row rows[] = { { "Print", { XK_Print } }, { "F1", { XK_F1 } },
+        { "Shift+F12", { XK_Shift_L, XK_F12 } }, { "Pause", { XK_Pause } },
+        { "Volume Up", { XF86XK_AudioRaiseVolume } }, { "Ctrl+PgUp", { XK_Control_L, XK_Prior } },
+        { "Ctrl+PgDown", { XK_Control_L, XK_Next } },
+        { "Ctrl+Insert", { XK_Control_L, XK_Insert } }, { "Alt+Delete", { XK_Alt_L, XK_Delete } },
+        { "Ctrl+Esc", { XK_Control_L, XK_Escape } },
+        { "Meta+Backspace", { XK_Super_L, XK_BackSpace } },
+        { "Ctrl+Return", { XK_Control_L, XK_Return } },
+        { "Ctrl+Space", { XK_Control_L, XK_space } },
+        { "Ctrl+Shift+Left", { XK_Control_L, XK_Shift_L, XK_Left } },
+        { "Ctrl+Shift+Tab", { XK_Control_L, XK_Shift_L, XK_Tab } },
+        { "Ctrl+[", { XK_Control_L, XK_bracketleft } },
+        { "Ctrl+!", { XK_Control_L, XK_Shift_L, XK_1 } },
+        { "Ctrl+Home", { XK_Control_L, XK_KP_Home } },
+        { "Ctrl+1", { XK_Num_Lock, XK_Control_L, XK_KP_End } },
+        { "Ctrl+*", { XK_Control_L, XK_KP_Multiply } } };
+    for (const auto &[sequence, pressed] : rows) {
+        CountedKey key(sequence);
+        QVERIFY2(key.registered, sequence);
+        m_other->tap(pressed);
+        QTRY_VERIFY2(key.presses.count() == 1, sequence);
+        if (pressed.startsWith(XK_Num_Lock))
+            m_other->tap({ XK_Num_Lock });
+    }
     // Common layouts give these keys no symbol of their own.
     for (int number = 13; number <= 24; ++number) {
         GlobalHotKey high;
@@ -349,32 +323,22 @@ void TestGlobalHotKeys::followsTheLayout()
     setLayout("us");
 }
 
-void TestGlobalHotKeys::leavesTypingToOtherPrograms_data()
-{
-    QTest::addColumn<QByteArray>("sequence");
-    QTest::addColumn<uint32_t>("symbol");
-    QTest::newRow("letter") << QByteArray("A") << uint32_t(XK_a);
-    QTest::newRow("digit") << QByteArray("1") << uint32_t(XK_1);
-    QTest::newRow("sign") << QByteArray("/") << uint32_t(XK_slash);
-    QTest::newRow("return") << QByteArray("Return") << uint32_t(XK_Return);
-    QTest::newRow("space") << QByteArray("Space") << uint32_t(XK_space);
-    QTest::newRow("backspace") << QByteArray("Backspace") << uint32_t(XK_BackSpace);
-    QTest::newRow("arrow") << QByteArray("Left") << uint32_t(XK_Left);
-}
-
 void TestGlobalHotKeys::leavesTypingToOtherPrograms()
 {
-    QFETCH(const QByteArray, sequence);
-    QFETCH(const uint32_t, symbol);
-    CountedKey key(sequence.constData());
-    CountedKey shifted(("Shift+" + sequence).constData());
-    QVERIFY(key.registered);
-    m_other->receivedPresses();
-    m_other->tap({ symbol });
-    m_other->tap({ XK_Shift_L, symbol });
-    awaitEarlierEvents();
-    QCOMPARE(key.presses.count() + shifted.presses.count(), 0);
-    QCOMPARE(m_other->receivedPresses().count(m_other->codeOf(symbol)), 2);
+    const std::pair<QByteArray, uint32_t> rows[] = { { "A", XK_a }, { "1", XK_1 },
+        { "/", XK_slash }, { "Return", XK_Return }, { "Space", XK_space },
+        { "Backspace", XK_BackSpace }, { "Left", XK_Left } };
+    for (const auto &[sequence, symbol] : rows) {
+        CountedKey key(sequence.constData());
+        CountedKey shifted(("Shift+" + sequence).constData());
+        QVERIFY(key.registered);
+        m_other->receivedPresses();
+        m_other->tap({ symbol });
+        m_other->tap({ XK_Shift_L, symbol });
+        awaitEarlierEvents();
+        QCOMPARE(key.presses.count() + shifted.presses.count(), 0);
+        QCOMPARE(m_other->receivedPresses().count(m_other->codeOf(symbol)), 2);
+    }
 }
 
 void TestGlobalHotKeys::typingKeysWorkInOwnWindows()
@@ -466,14 +430,6 @@ void TestGlobalHotKeys::keepsTheFocusWhileAKeyIsHeld()
 
 int main(int argc, char **argv)
 {
-    const XvfbServer server;
-    if (!server.isRunning()) {
-        qCritical("Xvfb does not start: install the package xvfb");
-        return 1;
-    }
-    const QGuiApplication app(argc, argv);
-    TestGlobalHotKeys test;
-    return QTest::qExec(&test, argc, argv);
+    return runOnXvfb<TestGlobalHotKeys>(argc, argv);
 }
-
 #include "tst_globalhotkeys.moc"

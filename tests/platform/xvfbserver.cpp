@@ -3,9 +3,7 @@
 XvfbServer::XvfbServer()
 {
     // The server picks a free display and writes its number when it is ready.
-    m_process.start(QStringLiteral("Xvfb"),
-        { QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-            QStringLiteral("0"), QStringLiteral("800x600x24"), QStringLiteral("-noreset") });
+    m_process.start("Xvfb", { "-displayfd", "1", "-screen", "0", "800x600x24", "-noreset" });
     QByteArray number;
     while (!number.endsWith('\n') && m_process.waitForReadyRead(20000))
         number += m_process.readAllStandardOutput();

@@ -10,7 +10,7 @@ namespace
 
 QString inApplicationDirectory(const QString &name)
 {
-    return QCoreApplication::applicationDirPath() + QLatin1Char('/') + name;
+    return QCoreApplication::applicationDirPath() + '/' + name;
 }
 
 } // namespace
@@ -21,78 +21,57 @@ class TestFileOutput : public QObject
 
 private slots:
     void init();
-    void payloadsAreDecoded_data();
     void payloadsAreDecoded();
-    void anExistingFileIsReplaced();
     void failuresAreLogged();
     void aFullDiskIsNoticed();
 };
 
 void TestFileOutput::init()
 {
-    QDir(inApplicationDirectory(QStringLiteral("update"))).removeRecursively();
-}
-
-void TestFileOutput::payloadsAreDecoded_data()
-{
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("base64") << QByteArray("aGVsbG8=") << QByteArray("hello");
-    QTest::newRow("data URL") << QByteArray("data:image/png;base64,aGVsbG8=")
-                              << QByteArray("hello");
-    QTest::newRow("data URL without a type") << QByteArray("data:,aGVsbG8=") << QByteArray("hello");
-    QTest::newRow("plain text is decoded all the same")
-        << QByteArray("abcd") << QByteArray::fromBase64("abcd");
-    QTest::newRow("nothing") << QByteArray() << QByteArray();
+    QDir(inApplicationDirectory("update")).removeRecursively();
 }
 
 void TestFileOutput::payloadsAreDecoded()
 {
-    QFETCH(QByteArray, data);
-    QFETCH(QByteArray, bytes);
-    const QString name = QStringLiteral("update/深/new.png");
-    QVERIFY(FileOutput::saveBesideExecutable(data, name));
-    QFile file(inApplicationDirectory(name));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), bytes);
-}
-
-void TestFileOutput::anExistingFileIsReplaced()
-{
-    const QString name = QStringLiteral("update/new.bin");
-    QVERIFY(FileOutput::saveBesideExecutable(QByteArray("a longer text").toBase64(), name));
-    QVERIFY(FileOutput::saveBesideExecutable(QByteArray("short").toBase64(), name));
-    QCOMPARE(QFileInfo(inApplicationDirectory(name)).size(), 5);
+    // Plain text is decoded all the same, and each payload replaces the longer one before it.
+    const std::pair<QByteArray, QByteArray> rows[] = {
+        { "data:image/png;base64,aGVsbG8=", "hello" }, { "data:,aGVsbG8=", "hello" },
+        { "aGVsbG8=", "hello" }, { "abcd", QByteArray::fromBase64("abcd") }, { "", "" }
+    };
+    for (const auto &[data, bytes] : rows) {
+        const QString name = "update/深/new.png";
+        QVERIFY(FileOutput::saveBesideExecutable(data, name));
+        QFile file(inApplicationDirectory(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), bytes);
+    }
 }
 
 void TestFileOutput::failuresAreLogged()
 {
     QTest::ignoreMessage(QtWarningMsg, "Invalid data URL format");
-    QVERIFY(!FileOutput::saveBesideExecutable("data:image/png;base64", QStringLiteral("a.png")));
+    QVERIFY(!FileOutput::saveBesideExecutable("data:image/png;base64", "a.png"));
 
-    QVERIFY(FileOutput::saveBesideExecutable("YQ==", QStringLiteral("update/file")));
-    QTest::ignoreMessage(QtWarningMsg,
-        QRegularExpression(QStringLiteral("^Failed to create directory: .*update/file/sub\"$")));
-    QVERIFY(!FileOutput::saveBesideExecutable("YQ==", QStringLiteral("update/file/sub/new")));
+    QVERIFY(FileOutput::saveBesideExecutable("YQ==", "update/file"));
+    QTest::ignoreMessage(
+        QtWarningMsg, QRegularExpression("^Failed to create directory: .*update/file/sub\"$"));
+    QVERIFY(!FileOutput::saveBesideExecutable("YQ==", "update/file/sub/new"));
 
     QTest::ignoreMessage(QtWarningMsg,
-        QRegularExpression(
-            QStringLiteral("^Cannot open file for writing: .*update\" , error: \".+\"$")));
-    QVERIFY(!FileOutput::saveBesideExecutable("YQ==", QStringLiteral("update")));
+        QRegularExpression("^Cannot open file for writing: .*update\" , error: \".+\"$"));
+    QVERIFY(!FileOutput::saveBesideExecutable("YQ==", "update"));
 }
 
 void TestFileOutput::aFullDiskIsNoticed()
 {
-    if (!QFile::exists(QStringLiteral("/dev/full"))) {
+    if (!QFile::exists("/dev/full")) {
         QSKIP("this system has no device that is always full");
     }
-    QVERIFY(FileOutput::saveBesideExecutable("", QStringLiteral("update/other")));
-    QVERIFY(QFile::link(
-        QStringLiteral("/dev/full"), inApplicationDirectory(QStringLiteral("update/full"))));
+    QVERIFY(FileOutput::saveBesideExecutable("", "update/other"));
+    QVERIFY(QFile::link("/dev/full", inApplicationDirectory("update/full")));
     QTest::ignoreMessage(QtWarningMsg,
-        QRegularExpression(
-            QStringLiteral("^Failed to write complete data to file: .*update/full\"$")));
-    QVERIFY(!FileOutput::saveBesideExecutable("YQ==", QStringLiteral("update/full")));
+        QRegularExpression("^Failed to write complete data to file: .*update/full\"$"));
+    QVERIFY(!FileOutput::saveBesideExecutable("YQ==", "update/full"));
 }
 
 QTEST_GUILESS_MAIN(TestFileOutput)

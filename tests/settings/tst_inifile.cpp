@@ -21,11 +21,6 @@ QByteArray read(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QString text(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
-
 } // namespace
 
 class TestIniFile : public QObject
@@ -34,7 +29,6 @@ class TestIniFile : public QObject
 
 private slots:
     void valuesKeepTheirGroups();
-    void aDamagedFileKeepsItsOtherGroups_data();
     void aDamagedFileKeepsItsOtherGroups();
     void anUnchangedValueLeavesTheFileAlone();
     void anUnwritableFolderChangesNothing();
@@ -43,67 +37,61 @@ private slots:
 void TestIniFile::valuesKeepTheirGroups()
 {
     const QTemporaryDir folder;
-    const IniFile file(folder.filePath(text("config.ini")));
-    QCOMPARE(file.value(text("Network"), text("API")), QString());
-    file.setValue(text("Network"), text("API"), text("https://服务.example/a?b=c;d"));
-    file.setValue(text("UPDATE"), text("API"), text("other"));
-    QCOMPARE(file.value(text("Network"), text("API")), text("https://服务.example/a?b=c;d"));
-    QCOMPARE(file.value(text("UPDATE"), text("API")), text("other"));
-    QCOMPARE(file.value(text("UPDATE"), text("missing")), QString());
-}
-
-void TestIniFile::aDamagedFileKeepsItsOtherGroups_data()
-{
-    QTest::addColumn<QByteArray>("damage");
-    QTest::newRow("a line without =") << QByteArray("nonsense\n");
-    QTest::newRow("an unclosed group") << QByteArray("[broken\nx=1\n");
-    QTest::newRow("bytes that are no text") << QByteArray("[g]\nname=\xb3\xc6\xba\xf4\n");
-    QTest::newRow("zeros after a crash") << QByteArray("[g]\n") + QByteArray(64, '\0') + "\n";
+    const IniFile file(folder.filePath("config.ini"));
+    QCOMPARE(file.value("Network", "API"), QString());
+    file.setValue("Network", "API", "https://服务.example/a?b=c;d");
+    file.setValue("UPDATE", "API", "other");
+    QCOMPARE(file.value("Network", "API"), "https://服务.example/a?b=c;d");
+    QCOMPARE(file.value("UPDATE", "API"), "other");
+    QCOMPARE(file.value("UPDATE", "missing"), QString());
 }
 
 void TestIniFile::aDamagedFileKeepsItsOtherGroups()
 {
-    QFETCH(QByteArray, damage);
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(text("config.ini"));
-    const QByteArray content =
-        "[Network]\nAPI=https://a.example\n" + damage + "[UPDATE]\nUpdateURL=https://b.example\n";
-    write(path, content);
-    const IniFile file(path);
-    QCOMPARE(file.value(text("Network"), text("API")), text("https://a.example"));
+    // A line without =, an unclosed group, bytes that are no text, zeros after a crash.
+    for (const QByteArray &damage : { QByteArray("nonsense\n"), QByteArray("[broken\nx=1\n"),
+             QByteArray("[g]\nname=\xb3\xc6\xba\xf4\n"), "[g]\n" + QByteArray(64, '\0') + "\n" }) {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("config.ini");
+        const QByteArray content = "[Network]\nAPI=https://a.example\n" + damage
+            + "[UPDATE]\nUpdateURL=https://b.example\n";
+        write(path, content);
+        const IniFile file(path);
+        QCOMPARE(file.value("Network", "API"), "https://a.example");
 
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(text("damaged.*config.ini.broken-")));
-    file.setValue(text("APP"), text("opengl"), text("software"));
-    QCOMPARE(file.value(text("APP"), text("opengl")), text("software"));
-    QCOMPARE(file.value(text("Network"), text("API")), text("https://a.example"));
-    QCOMPARE(file.value(text("UPDATE"), text("UpdateURL")), text("https://b.example"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("damaged.*config.ini.broken-"));
+        file.setValue("APP", "opengl", "software");
+        QCOMPARE(file.value("APP", "opengl"), "software");
+        QCOMPARE(file.value("Network", "API"), "https://a.example");
+        QCOMPARE(file.value("UPDATE", "UpdateURL"), "https://b.example");
 
-    const QDir directory(folder.path());
-    const QStringList copies = directory.entryList({ text("config.ini.broken-*") });
-    QCOMPARE(copies.size(), 1);
-    QCOMPARE(read(directory.filePath(copies.first())), content);
+        const QDir directory(folder.path());
+        const QStringList copies = directory.entryList({ "config.ini.broken-*" });
+        QCOMPARE(copies.size(), 1);
+        QCOMPARE(read(directory.filePath(copies.first())), content);
 
-    // The file is sound again: no further copy, however often it is written.
-    file.setValue(text("APP"), text("opengl"), text("hardware"));
-    file.setValue(text("APP"), text("opengl"), text("hardware"));
-    QCOMPARE(directory.entryList({ text("config.ini.broken-*") }).size(), 1);
+        // The file is sound again: no further copy, however often it is written.
+        file.setValue("APP", "opengl", "hardware");
+        file.setValue("APP", "opengl", "hardware");
+        QCOMPARE(directory.entryList({ "config.ini.broken-*" }).size(), 1);
+    }
 }
 
 void TestIniFile::anUnchangedValueLeavesTheFileAlone()
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(text("config.ini"));
+    const QString path = folder.filePath("config.ini");
     const QByteArray content = "; our server\n[APP]\nopengl=software\n";
     write(path, content);
-    IniFile(path).setValue(text("APP"), text("opengl"), text("software"));
+    IniFile(path).setValue("APP", "opengl", "software");
     QCOMPARE(read(path), content);
 }
 
 void TestIniFile::anUnwritableFolderChangesNothing()
 {
-    const IniFile file(text("/proc/config.ini"));
-    file.setValue(text("APP"), text("opengl"), text("software"));
-    QCOMPARE(file.value(text("APP"), text("opengl")), QString());
+    const IniFile file("/proc/config.ini");
+    file.setValue("APP", "opengl", "software");
+    QCOMPARE(file.value("APP", "opengl"), QString());
 }
 
 QTEST_GUILESS_MAIN(TestIniFile)

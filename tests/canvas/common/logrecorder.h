@@ -11,6 +11,11 @@ public:
     ~LogRecorder() { qInstallMessageHandler(m_previous); }
     Q_DISABLE_COPY_MOVE(LogRecorder)
 
+    /// The line that logging a text and an id gives.
+    [[nodiscard]] static QString line(const char *text, const QString &id)
+    {
+        return QStringLiteral("%1 \"%2\"").arg(QString::fromUtf8(text), id);
+    }
     [[nodiscard]] static QStringList take() { return std::exchange(s_lines, {}); }
 
 private:
