@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QTest>
 
+#include <functional>
 #include <limits>
 
 namespace
@@ -36,6 +37,8 @@ private slots:
     void opacityIsClamped();
     void eraserAndDrawModeExcludeEachOther();
     void paintsNothingBeforeTheFirstPicture();
+    void smallResizesChangeNothing();
+    void resizedPictureLastsUntilTheContentChanges();
     void clearForgetsEverything();
     void historySignals();
 };
@@ -152,6 +155,65 @@ void TestMyPainter::historySignals()
     canvas.redo();
     QCOMPARE(recorder.take(),
         QStringList({ "canUndoChanged", "canRedoChanged", "canUndoChanged", "canRedoChanged" }));
+}
+
+void TestMyPainter::smallResizesChangeNothing()
+{
+    TestCanvas canvas;
+    canvas.line(QPoint(10, 10), QPoint(190, 140));
+    const qint64 key = canvas.cachedPicture().cacheKey();
+    canvas.setSize(QSizeF(200.9, 151));
+    QCOMPARE(canvas.cachedPicture().cacheKey(), key);
+    canvas.setSize(QSizeF(202, 151));
+    QCOMPARE(canvas.cachedPicture().size(), QSize(202, 151));
+}
+
+void TestMyPainter::resizedPictureLastsUntilTheContentChanges()
+{
+    struct Row {
+        const char *name;
+        std::function<void(TestCanvas &)> act;
+        bool repaints;
+    };
+    const Row rows[] = {
+        { "press", [](auto &canvas) { canvas.beginPaint(QPoint(1, 1)); }, false },
+        { "moving nothing",
+            [](auto &canvas) {
+                canvas.setDrawMode(MyPainter::TextMode);
+                canvas.movePaint(QPoint(5, 140), false);
+            },
+            true },
+        { "releasing nothing", [](auto &canvas) { canvas.endPaint(QPoint(), false); }, true },
+        { "nothing hit", [](auto &canvas) { canvas.deleteElement(QPoint(5, 140)); }, false },
+        { "nothing to redo", [](auto &canvas) { canvas.redo(); }, false },
+        { "selecting", [](auto &canvas) { canvas.selectLastElement(); }, true },
+        { "fading",
+            [](auto &canvas) {
+                canvas.undoGradient();
+                canvas.tick();
+            },
+            true },
+        { "leaving the line tool", [](auto &canvas) { canvas.setDrawMode(0); }, false },
+        { "leaving the arrow tool",
+            [](auto &canvas) {
+                canvas.setDrawMode(MyPainter::ArrowMode);
+                canvas.setDrawMode(0);
+            },
+            true },
+        { "no text", [](auto &canvas) { canvas.addText(" ", 1, 1, 20); }, false },
+    };
+    for (const auto &[name, act, repaints] : rows) {
+        TestCanvas canvas;
+        canvas.line(QPoint(10, 10), QPoint(290, 90));
+        const QImage old = canvas.cachedPicture();
+        canvas.setSize(QSizeF(300, 150));
+        const QImage resized = old.copy(QRect(0, 0, 300, 150));
+        QCOMPARE(canvas.cachedPicture(), resized);
+        act(canvas);
+        const QImage fresh = referencePicture(canvas.elements(), QSize(300, 150));
+        QVERIFY(fresh != resized);
+        QVERIFY2(canvas.cachedPicture() == (repaints ? fresh : resized), name);
+    }
 }
 
 QTEST_MAIN(TestMyPainter)

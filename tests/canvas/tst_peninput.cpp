@@ -40,6 +40,7 @@ void TestPenInput::snapping()
     for (const auto &[start, pos, eighthTurn, square] :
         { Row{ origin, { 100, 40 }, { 108, 0 }, { 100, 100 } },
             Row{ origin, { 100, 70 }, { 86, 86 }, { 100, 100 } },
+            Row{ origin, { 100, 42 }, { 77, 77 }, { 100, 100 } },
             Row{ origin, { 30, -50 }, { 41, -41 }, { 50, -50 } },
             Row{ { 10, 10 }, { -20, 11 }, { -20, 10 }, { -20, 40 } },
             Row{ { 5, 5 }, { 5, 25 }, { 5, 25 }, { 25, 25 } },

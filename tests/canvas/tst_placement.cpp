@@ -20,6 +20,7 @@ private slots:
     void announcesOnlyTheBoxText();
     void logsTypedText();
     void numbersRun();
+    void numbersFollowTheHistoryOfTheirTool();
 };
 
 void TestPlacement::preparesText()
@@ -121,6 +122,36 @@ void TestPlacement::numbersRun()
     canvas.clear();
     canvas.stroke({ QPoint(20, 30) });
     QCOMPARE(canvas.top<NumberedCircleElement>()->number, 1);
+}
+
+void TestPlacement::numbersFollowTheHistoryOfTheirTool()
+{
+    TestCanvas canvas;
+    canvas.setDrawMode(MyPainter::NumberedCircleMode);
+    for (int i = 0; i < 3; ++i)
+        canvas.beginPaint(QPoint(30, 30));
+    canvas.undo();
+    canvas.beginPaint(QPoint(30, 30));
+    QCOMPARE(canvas.top<NumberedCircleElement>()->number, 3);
+    canvas.undo();
+    canvas.redo();
+    QCOMPARE(canvas.lastNumber(), 3);
+    canvas.setDrawMode(MyPainter::FreehandMode);
+    canvas.undo();
+    canvas.setDrawMode(MyPainter::NumberedCircleMode);
+    canvas.beginPaint(QPoint(30, 30));
+    QCOMPARE(canvas.top<NumberedCircleElement>()->number, 4);
+    for (int i = 0; i < 9; ++i) // with nothing left to undo the number stays
+        canvas.undo();
+    QCOMPARE(canvas.lastNumber(), 1);
+    canvas.clear();
+    canvas.setDrawMode(MyPainter::LineMode);
+    canvas.stroke({ QPoint(1, 1) });
+    canvas.setDrawMode(MyPainter::NumberedCircleMode);
+    canvas.undo();
+    QCOMPARE(canvas.lastNumber(), 0);
+    canvas.redo();
+    QCOMPARE(canvas.lastNumber(), 1);
 }
 
 QTEST_MAIN(TestPlacement)

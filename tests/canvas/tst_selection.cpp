@@ -27,6 +27,8 @@ private slots:
     void everyTransformIsOneStep();
     void batchIsOneStep();
     void batchEndsOverAnotherSelection();
+    void followsItsElementThroughTheHistory();
+    void endsWithItsElement();
 };
 
 void TestSelection::selects()
@@ -208,6 +210,42 @@ void TestSelection::batchEndsOverAnotherSelection()
     canvas.undo(); // nothing is lost: the first is back where it was, the second stays
     QCOMPARE(canvas.ids(), QStringList({ second, first }));
     QCOMPARE(canvas.top<LineElement>()->start, QPoint(20, 20));
+}
+
+void TestSelection::endsWithItsElement()
+{
+    TestCanvas canvas;
+    canvas.line(QPoint(20, 20), QPoint(60, 40));
+    canvas.selectLastElement();
+    QVERIFY(canvas.deleteElement(QPoint(40, 30)));
+    QVERIFY(canvas.hasSelectedElement()); // it is still there, in the history
+    for (int i = 0; i < History::kTrimmedSize; ++i) {
+        canvas.line(QPoint(100, 20), QPoint(100, 40));
+        QVERIFY(canvas.deleteElement(QPoint(100, 30)));
+    }
+    QVERIFY(!canvas.hasSelectedElement());
+    const LogRecorder log;
+    canvas.translateSelectedElement(1, 1);
+    canvas.beginTransformBatch();
+    QCOMPARE(LogRecorder::take(),
+        QStringList({ CanvasLog::kNothingSelected, CanvasLog::kBatchNeedsSelection }));
+}
+
+void TestSelection::followsItsElementThroughTheHistory()
+{
+    TestCanvas canvas;
+    canvas.line(QPoint(20, 20), QPoint(60, 40));
+    canvas.selectLastElement();
+    canvas.translateSelectedElement(30, 30);
+    canvas.undo(); // puts another object on the board
+    QVERIFY(canvas.hasSelectedElement());
+    canvas.translateSelectedElement(1, 0);
+    QCOMPARE(canvas.top<LineElement>()->start, QPoint(21, 20));
+    QVERIFY(canvas.deleteElement(QPoint(40, 30)));
+    canvas.translateSelectedElement(1, 0); // acts on the removed element
+    canvas.undo();
+    QCOMPARE(canvas.elements().size(), 1);
+    QCOMPARE(canvas.top<LineElement>()->start, QPoint(21, 20));
 }
 
 QTEST_MAIN(TestSelection)
