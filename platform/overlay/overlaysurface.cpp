@@ -26,6 +26,8 @@ void OverlaySurface::setWindow(QWindow *window)
     m_backend = OverlayBackend::create(window);
     connect(m_backend.get(), &OverlayBackend::compositedChanged, this,
         &OverlaySurface::compositedChanged);
+    // Qt Quick ends every gesture when the program loses the keyboard; see eventFilter.
+    disconnect(qGuiApp, &QGuiApplication::applicationStateChanged, window, nullptr);
     watchScreens();
     emit windowChanged();
     emit compositedChanged();

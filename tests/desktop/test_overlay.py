@@ -129,7 +129,8 @@ class DrawingTest(OverlayTestCase):
         plain = self.desktop.open_window("Notice", (700, 100, 200, 100))
         self.desktop.windows.activate(plain.window)
         self.wait_for(lambda: self.desktop.windows.active == plain.window, "the keyboard to go")
-        self.desktop.pointer.glide([(250, 600), (350, 600)])
+        # Slowly: the program learns of it only after a while.
+        self.desktop.pointer.glide([(250, 600), (350, 600)], samples=100)
         self.desktop.pointer.release()
         self.wait_for_red(345, 600, "the rest of the stroke")
         self.desktop.pointer.drag([(150, 650), (350, 650)])
