@@ -5,7 +5,7 @@ import os
 from Xlib import X, XK, error
 
 import desktop
-from desktop.capturing import store_settings
+from desktop.capturing import ACCENT, store_settings
 
 CONFLICT = (250, 85, 85)
 # Rows of the window, from its top; the folder's button and the pickers' boxes are at the right.
@@ -13,7 +13,7 @@ FOLDER_Y, LANGUAGE_Y, FIRST_PICKER_Y, PICKER_PITCH = 57, 104, 155, 55
 PICKERS = ("screenKey", "penKey", "closeDrawKey", "eraseKey", "textKey", "clearKey", "lineKey",
            "circleKey")
 BOX_X, BROWSE_X, TEXT_X, SAVE = 310, 350, 200, (310, 403)
-DIALOG_CORNER = (40, 175)
+CHOSEN_LANGUAGE, BLUE = (84, 205), (0, 102, 180)
 
 
 class SettingsTest(desktop.DesktopTestCase):
@@ -34,10 +34,10 @@ class SettingsTest(desktop.DesktopTestCase):
         self.desktop.pointer.click(*point)
 
     def open_picker(self, key):
-        shade = self.desktop.screen.pixel(*self.window.at(5, 300))
+        edge = self.window.at(5, 300)
+        self.wait_for_pixel(*edge, lambda colour: min(colour) > 250, "a former dialog to go")
         self.click(BOX_X, FIRST_PICKER_Y + PICKERS.index(key) * PICKER_PITCH)
-        self.wait_for_pixel(*self.window.at(5, 300), lambda colour: sum(colour) < sum(shade) - 90,
-                            "the dialog to dim the window")
+        self.wait_for_pixel(*edge, lambda colour: max(colour) < 200, "the dialog to open")
 
     def save(self, key, keys):
         self.click(*SAVE)
@@ -134,9 +134,13 @@ class SettingsTest(desktop.DesktopTestCase):
         self.launch()
         self.open_settings()
         self.click(TEXT_X, LANGUAGE_Y)
+        self.wait_for_pixel(*self.window.at(*CHOSEN_LANGUAGE),
+                            lambda colour: desktop.near(colour, BLUE), "the list to open")
         self.desktop.keyboard.tap("Home", "Return")  # British English
-        self.program.wait_for_log("Selected:  en_GB")
-        self.click(BROWSE_X, LANGUAGE_Y)
+        apply = 350, LANGUAGE_Y - 10
+        self.wait_for_pixel(*self.window.at(*apply), lambda colour: desktop.near(colour, ACCENT),
+                            "the button that applies it")
+        self.click(*apply)
         self.assertEqual(self.program.wait_for_end(), 0)
 
         window = self.desktop.wait_for_window(title="Main window")
