@@ -91,7 +91,3 @@ class CaptureTestCase(DesktopTestCase):
         if not os.path.isdir(self.folder):
             return []
         return sorted(os.path.join(self.folder, name) for name in os.listdir(self.folder))
-
-    def expect_no_complaint(self):
-        for line in self.program.log().splitlines():
-            self.assertNotRegex(line, r"^qrc:.*(Error|Warning|Cannot|Unable|is not|Conflicting)")
