@@ -28,7 +28,7 @@ Window {
     Component.onDestruction: Notices.forget(root)
 
     screen: Application.screens[0]
-    title: heading
+    title: detail === "" ? heading : heading + " · " + detail
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint | Qt.WindowDoesNotAcceptFocus
     color: "transparent"
     width: 340

@@ -134,7 +134,7 @@ Window {
         Notices.clear();
         requestActivate();
     }
-    // Closed in the midst of a recording, which the recorder finishes by itself.
+    // Closed in the midst of a recording, whose file is whole but for its last moment.
     Component.onDestruction: {
         if (captureObject.isRecording())
             tellSaved();
