@@ -106,12 +106,11 @@ class Palette:
 
     def _is_flyout(self, rect, rows=None):
         counts = [rows] if rows else {len(names) for names in FLYOUTS.values()}
-        heights = [round(count * ROW_PITCH * SCALE + 20 * SCALE) * self._dpr for count in counts]
+        heights = [int(count * ROW_PITCH * SCALE + 20 * SCALE + 0.5) * self._dpr for count in counts]
         return rect.width <= 34 * self._dpr and any(abs(rect.height - h) < 2 for h in heights)
 
     def _only(self, judge):
-        found = [window for window in self._program.windows(frameless=True)
-                 if judge(window.geometry)]
+        found = self._program.windows(frameless=True, geometry=judge)
         return found[0] if len(found) == 1 else None
 
     def _wait(self, condition, what):
