@@ -6,9 +6,12 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QTimer>
 
 namespace
 {
+constexpr int kHeirSettleMs = 150; // longer than a window manager takes to pass the keyboard on
+
 bool isEraser(const QPointerEvent *event)
 {
     return event->pointerType() == QPointingDevice::PointerType::Eraser;
@@ -168,8 +171,11 @@ bool OverlaySurface::eventFilter(QObject *watched, QEvent *event)
     if (watched != m_window) {
         if (event->type() == QEvent::Expose)
             stackOther(static_cast<QWindow *>(watched));
-        else if (event->type() == QEvent::Hide && hadFocusUntilNow(watched))
+        else if (event->type() == QEvent::Hide && hadFocusUntilNow(watched)) {
+            // Window managers choose an heir themselves; the last word comes after them.
             QMetaObject::invokeMethod(this, &OverlaySurface::inheritFocus, Qt::QueuedConnection);
+            QTimer::singleShot(kHeirSettleMs, this, &OverlaySurface::inheritFocus);
+        }
         return false;
     }
     // Qt Quick would end the gesture; the pointer still belongs to the window that was pressed.
