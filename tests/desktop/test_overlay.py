@@ -320,6 +320,7 @@ class InputMethodTest(OverlayTestCase):
         self.wait_for(lambda: not self.candidates(), "the choice to be made")
         self.desktop.keyboard.type("zhong")
         self.wait_for(self.candidates, "the next choices")
+        self.wait_until_settled()  # every letter has arrived
         self.desktop.pointer.click(800, 600)
         self.program.wait_for_log('接收到的原始文本: "你好zhong"')
 
