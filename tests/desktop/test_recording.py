@@ -148,7 +148,9 @@ class RecordingTest(CaptureTestCase):
     def expect_failure(self, text):
         self.open_window("record", "录屏")
         self.press(START)
-        self.notice("录制失败 · " + text)
+        notice = self.notice("录制失败 · " + text)
+        self.wait_for(lambda: self.desktop.windows.at(*notice.centre) == notice,
+                      "the notice above the panel")
 
     def test_what_prevents_a_recording_is_told(self):
         self.launch(folder="/proc/none")
