@@ -106,7 +106,9 @@ Window {
             heading: qsTr("录制失败"),
             detail: detail,
             filePath: captureObject.report.filePath,
-            isFailure: true
+            isFailure: true,
+            // A panel that stays would lie over it.
+            transientParent: leaving ? null : root
         });
     }
 

@@ -127,6 +127,8 @@ class SettingsTest(desktop.DesktopTestCase):
         self.click(BROWSE_X, FOLDER_Y)
         dialog = self.program.window(title="选择保存目录")
         self.wait_for(lambda: self.desktop.windows.active == dialog, "the keyboard")
+        overlapped = dialog.at(dialog.geometry.width - 20, dialog.geometry.height // 2)
+        self.wait_for(lambda: self.desktop.windows.at(*overlapped) == dialog, "it on top")
         self.desktop.keyboard.tap("Home", "Shift+End")
         self.desktop.keyboard.type(chosen + "\n")
         self.program.wait_for_log(f'已选择并保存目录路径: "{chosen}"')

@@ -7,8 +7,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include <cstdlib>
-
 namespace
 {
 
@@ -46,7 +44,6 @@ private slots:
     void aMissingProgramKeepsThisOneRunning();
     void aProgramIsStartedAndThisOneQuits();
     void aProgramThatCannotRunStillMakesThisOneQuit();
-    void theNewInstanceIsToldThatItIsARestart();
 };
 
 void TestProcessServices::aMissingProgramKeepsThisOneRunning()
@@ -76,24 +73,5 @@ void TestProcessServices::aProgramThatCannotRunStillMakesThisOneQuit()
         quitsThroughEventLoop([] { ProcessServices::startAndQuit(QStringLiteral("no program")); }));
 }
 
-void TestProcessServices::theNewInstanceIsToldThatItIsARestart()
-{
-    const QString marker = besideExecutable("restarted");
-    QFile::remove(marker);
-    QVERIFY(quitsThroughEventLoop([] { ProcessServices::restartApplication(); }));
-    QTRY_VERIFY(QFile::exists(marker));
-}
-
-/// The restarted test program only leaves a trace.
-int main(int argc, char **argv)
-{
-    QCoreApplication application(argc, argv);
-    if (QCoreApplication::arguments().mid(1) == QStringList{ QStringLiteral("--restart") }) {
-        QFile marker(besideExecutable("restarted"));
-        return marker.open(QIODevice::WriteOnly) ? EXIT_SUCCESS : EXIT_FAILURE;
-    }
-    TestProcessServices test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_GUILESS_MAIN(TestProcessServices)
 #include "tst_processservices.moc"
