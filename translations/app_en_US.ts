@@ -517,7 +517,7 @@
     </message>
     <message>
         <source>设置</source>
-        <translation>Settings</translation>
+        <translation>Setup</translation>
     </message>
     <message>
         <source>退出</source>
