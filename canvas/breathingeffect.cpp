@@ -106,7 +106,7 @@ void BreathingEffect::pulse()
         wave * (m_baseOpacity - kLowestOpacity) + kLowestOpacity;
     m_document.events.breathingReported(true);
     if (m_document.elements.isValid(target)) // a listener may have changed the board
-        m_document.events.contentChanged(m_document.elements.at(target)->paintedRect(), target);
+        m_document.reportElement(target);
 }
 
 void BreathingEffect::restoreOpacity(int index)

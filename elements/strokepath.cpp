@@ -12,7 +12,7 @@ using Element = QPainterPath::Element;
 
 /// Elements of a path that make a stretch: large enough to skip much at once, small enough to skip
 /// most of a long stroke.
-constexpr int kStretch = 96;
+constexpr int kStretch = 48;
 
 /// Unlike those of Qt, empty rectangles also meet others, and edges count.
 bool meets(const QRectF &bounds, const QRectF &area)
