@@ -38,7 +38,7 @@ void GoalTable::ReportRuns(const std::vector<Run> &runs)
         const bool counts = run.run_type == Run::RT_Aggregate ? run.aggregate_name == "median"
                                                               : run.repetitions <= 1;
         if (counts && !run.error_occurred)
-            m_microseconds[run.run_name.function_name] = run.GetAdjustedRealTime();
+            m_microseconds[run.run_name.function_name] = run.GetAdjustedCPUTime();
     }
 }
 

@@ -6,7 +6,8 @@
 #include <ostream>
 #include <string>
 
-/// Keeps the time of each benchmark and prints, after all of them, what was wanted beside it.
+/// Keeps the processor time of each benchmark, which other programs on the machine do not lengthen,
+/// and prints, after all of them, what was wanted beside it.
 class GoalTable : public benchmark::ConsoleReporter
 {
 public:
