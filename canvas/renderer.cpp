@@ -113,7 +113,7 @@ void Renderer::repaintDamage()
     const int topmost = m_elements.size() - 1;
     const int paintedCount = std::exchange(m_paintedCount, m_elements.size());
     const bool onlyAppended = topmost == paintedCount && m_lowest >= paintedCount;
-    if (onlyAppended || m_lowest < m_beneathCount || m_beneathCount != topmost) {
+    if (onlyAppended || m_beneathCount != topmost) {
         forgetBeneath();
         m_beneathCount = topmost;
         m_picturesBeneath = onlyAppended;

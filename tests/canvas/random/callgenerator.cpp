@@ -65,8 +65,12 @@ Call transform(const QString &text, bool valid, const std::function<void(MyPaint
 {
     return { text, [=](Stage &stage) {
                 const bool happens = valid && stage.canvas.hasSelectedElement();
+                const auto &undo = stage.canvas.document().history.undoEntries();
+                const std::size_t recorded = undo.size();
                 apply(stage.canvas);
-                return Expectation{ .repaint = always(happens), .quiet = !happens };
+                return Expectation{ .repaint = always(happens),
+                    .quiet = !happens,
+                    .emptiesRedo = undo.size() > recorded };
             } };
 }
 

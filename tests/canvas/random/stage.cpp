@@ -144,6 +144,8 @@ QString Stage::boardProblem(const Expectation &expected, const Before &before) c
 {
     const QStringList ids = idsOf(canvas.document());
     const auto &undo = canvas.document().history.undoEntries();
+    if (expected.emptiesRedo && canvas.canRedo())
+        return QStringLiteral("a change left something to redo");
     if (expected.topBounds
         && canvas.document().elements.last()->boundingRect() != expected.topBounds)
         return QStringLiteral("the step did not give the topmost element its state");

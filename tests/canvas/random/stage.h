@@ -29,6 +29,7 @@ struct Expectation {
     std::optional<QStringList> ids = {}; ///< in place of `board`: exactly these elements, in order
     std::optional<QRect> topBounds = {}; ///< of the topmost element
     bool quiet = false; ///< emits nothing
+    bool emptiesRedo = false;
     Loss loss = UndoneChanges; ///< what may be gone for good
 };
 
