@@ -53,7 +53,7 @@ struct Board {
 
     ElementList elements;
     History history;
-    QRect damage;
+    Damage damage;
 };
 
 QString logged(const char *text, const char *id)
@@ -90,7 +90,7 @@ void TestHistory::emptyStacksOnlySaySo()
     QVERIFY(!board.redo());
     QCOMPARE(
         LogRecorder::take(), QStringList({ CanvasLog::kNothingToUndo, CanvasLog::kNothingToRedo }));
-    QVERIFY(board.damage.isNull());
+    QVERIFY(board.damage.areas().empty());
 }
 
 void TestHistory::additions()
@@ -99,7 +99,8 @@ void TestHistory::additions()
     Board board;
     QVERIFY(board.undo());
     QCOMPARE(board.state(), "ab AA A");
-    QVERIFY(board.damage.contains(QRect(QPoint(1, 2), QPoint(30, 40))));
+    QCOMPARE(board.damage.areas().size(), std::size_t(1));
+    QVERIFY(board.damage.areas()[0].contains(QRect(QPoint(1, 2), QPoint(30, 40))));
     QVERIFY(board.undo());
     QVERIFY(board.redo());
     QVERIFY(board.redo());

@@ -35,6 +35,10 @@ QRect touched(const QImage &image)
 /// Complains about ink outside of the painted rectangle, and about one that is needlessly large.
 void compareWithInk(const DrawingElement &element, const QRect &ink, int slack)
 {
+    QRect pieces;
+    for (const QRect &piece : element.paintedPieces())
+        pieces |= piece;
+    QVERIFY2(pieces.contains(ink), "the pieces leave ink out");
     const QRect promised = element.paintedRect();
     const QRect sensible = ink.adjusted(-slack, -slack, slack, slack);
     const QString report = QStringLiteral("promised %1,%2 %3x%4, ink %5,%6 %7x%8")
