@@ -103,13 +103,14 @@ void BreathingEffect::pulse()
     const double wave = (std::cos(2 * phase * kPi) + 1) * 0.5;
     const int target = m_pulseTarget;
     DrawingElement *element = m_document.elements.at(target);
-    const QRect area = element->paintedRect();
+    Damage damage;
+    damage.add(*element);
     element->opacity = wave * (m_baseOpacity - kLowestOpacity) + kLowestOpacity;
     m_document.events.breathingReported(true);
     // A listener may have changed the board, and then the element may lie elsewhere in the list.
     const ElementList &elements = m_document.elements;
     const bool stays = elements.isValid(target) && elements.at(target) == element;
-    m_document.events.contentChanged(area, stays ? target : 0);
+    m_document.events.contentChanged(damage, stays ? target : 0);
 }
 
 void BreathingEffect::restoreOpacity(int index)

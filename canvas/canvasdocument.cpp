@@ -4,13 +4,14 @@
 
 void CanvasDocument::addElement(ElementPtr element)
 {
-    const QRect area = element->paintedRect();
+    Damage damage;
+    damage.add(*element);
     history.push({ HistoryEntry::Add, element->id });
     const int index = elements.size();
     elements.append(std::move(element));
     history.clearRedo();
     reportBothStacks();
-    events.contentChanged(area, index);
+    events.contentChanged(damage, index);
 }
 
 void CanvasDocument::removeElement(int index)
@@ -31,15 +32,22 @@ void CanvasDocument::setElementOpacity(int index, double opacity)
 {
     DrawingElement &element = *elements.at(index);
     element.opacity = opacity;
-    events.contentChanged(element.paintedRect(), index);
+    reportElement(index);
 }
 
-void CanvasDocument::reportReshaped(const DrawingElement &element, const QRect &area)
+void CanvasDocument::reportElement(int index)
 {
-    events.contentChanged(area, elements.placeOf(element));
+    Damage damage;
+    damage.add(*elements.at(index));
+    events.contentChanged(damage, index);
+}
+
+void CanvasDocument::reportReshaped(const DrawingElement &element, const Damage &damage)
+{
+    events.contentChanged(damage, elements.placeOf(element));
 }
 
 void CanvasDocument::reportUnchanged()
 {
-    events.contentChanged(QRect(), elements.size());
+    events.contentChanged(Damage(), elements.size());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "canvas/damage.h"
 #include "canvas/elementlist.h"
 #include "canvas/history.h"
 
@@ -32,8 +33,10 @@ public:
     void reportBothStacks();
     /// Changes the opacity of the element at a valid index.
     void setElementOpacity(int index, double opacity);
-    /// Reports that this element, which may be gone from the list, looks different inside `area`.
-    void reportReshaped(const DrawingElement &element, const QRect &area);
+    /// Reports that the element at a valid index looks different where it is.
+    void reportElement(int index);
+    /// Reports that this element, which may be gone from the list, looks different.
+    void reportReshaped(const DrawingElement &element, const Damage &damage);
     /// Has the picture brought up to date, though no element looks different.
     void reportUnchanged();
 

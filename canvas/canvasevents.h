@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QRect>
+#include "canvas/damage.h"
+
 #include <QString>
 
 /// What the canvas's collaborators report while they work. The canvas item turns each report into
@@ -16,8 +17,7 @@ public:
     virtual void elementCompleted(const QString &elementId) = 0;
     /// Breathing was found on or off; reported at every step of the pulse.
     virtual void breathingReported(bool on) = 0;
-    /// The list now paints differently inside `area` (canvas coordinates; may be empty). The
-    /// elements below index `lowest` paint as before; 0 is always true.
-    virtual void contentChanged(const QRect &area, int lowest) = 0;
-    void contentChanged(const QRect &area) { contentChanged(area, 0); }
+    /// The list now paints differently where `damage`, which may be empty, tells. The elements
+    /// below index `lowest` paint as before; 0 is always true.
+    virtual void contentChanged(const Damage &damage, int lowest) = 0;
 };

@@ -52,24 +52,27 @@ void Eraser::erase(const QPoint &previous, const QPoint &pos)
 {
     const int tolerance = geometry::saturated(2LL * m_document.pen.size);
     const std::vector<QPoint> samples = samplePath(previous, pos);
-    QRect area;
+    Damage damage;
+    int lowest = m_document.elements.size();
     for (int i = m_document.elements.size() - 1; i >= 0; --i) {
         if (!m_document.elements.isValid(i))
             continue; // a listener told of the last one has changed the board
         const DrawingElement *element = m_document.elements.at(i);
         const bool touched = std::any_of(samples.begin(), samples.end(),
             [=](const QPoint &sample) { return element->contains(sample, tolerance); });
-        if (touched)
-            area |= eraseElement(i);
+        if (!touched)
+            continue;
+        damage.add(*element);
+        lowest = i;
+        eraseElement(i);
     }
-    m_document.events.contentChanged(area);
+    m_document.events.contentChanged(damage, std::min(lowest, m_document.elements.size()));
 }
 
-QRect Eraser::eraseElement(int index)
+void Eraser::eraseElement(int index)
 {
     ElementPtr element = m_document.elements.take(index);
     const QString id = element->id;
-    const QRect area = element->paintedRect();
     qDebug() << CanvasLog::kErased << id;
     if (HistoryEntry *known = m_document.history.findRemoval(id)) {
         qDebug() << CanvasLog::kEraseKnown;
@@ -79,7 +82,6 @@ QRect Eraser::eraseElement(int index)
         m_document.history.push({ HistoryEntry::Erase, id, std::move(element) });
         m_document.events.undoStackChanged();
     }
-    return area;
 }
 
 bool Eraser::deleteAt(const QPoint &pos, int tolerance)
@@ -87,10 +89,11 @@ bool Eraser::deleteAt(const QPoint &pos, int tolerance)
     const int index = m_document.elements.topmostAt(pos, tolerance);
     if (index == ElementList::kNotFound)
         return false;
-    const QRect area = m_document.elements.at(index)->paintedRect();
+    Damage damage;
+    damage.add(*m_document.elements.at(index));
     m_document.removeElement(index);
     m_document.history.clearRedo();
     m_document.reportBothStacks();
-    m_document.events.contentChanged(area);
+    m_document.events.contentChanged(damage, index);
     return true;
 }

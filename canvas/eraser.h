@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QPoint>
-#include <QRect>
 
 #include <vector>
 
@@ -23,8 +22,7 @@ public:
     bool deleteAt(const QPoint &pos, int tolerance);
 
 private:
-    /// Returns the area that the element was painted in.
-    QRect eraseElement(int index);
+    void eraseElement(int index);
 
     CanvasDocument &m_document;
 };

@@ -43,10 +43,11 @@ void FadeEffect::step()
 
 void FadeEffect::removeTarget()
 {
-    const QRect area = m_document.elements.at(kTarget)->paintedRect();
+    Damage damage;
+    damage.add(*m_document.elements.at(kTarget));
     m_document.removeElement(kTarget);
     m_document.reportBothStacks();
-    m_document.events.contentChanged(area);
+    m_document.events.contentChanged(damage, kTarget);
 }
 
 void FadeEffect::finish()

@@ -24,28 +24,28 @@ bool topIs(const std::vector<HistoryEntry> &stack, HistoryEntry::Kind kind)
     return !stack.empty() && stack.back().kind == kind;
 }
 
-ElementPtr takeFrom(ElementList &elements, const QString &id, QRect &damage)
+ElementPtr takeFrom(ElementList &elements, const QString &id, Damage &damage)
 {
     ElementPtr element = elements.take(id);
     if (element)
-        damage |= element->paintedRect();
+        damage.add(*element);
     return element;
 }
 
-void appendTo(ElementList &elements, ElementPtr element, QRect &damage)
+void appendTo(ElementList &elements, ElementPtr element, Damage &damage)
 {
-    damage |= element->paintedRect();
+    damage.add(*element);
     elements.append(std::move(element));
 }
 
 /// Gives the live element the geometry of `state`, and answers with a copy of what it was.
-ElementPtr applyState(DrawingElement &live, const DrawingElement *state, QRect &damage)
+ElementPtr applyState(DrawingElement &live, const DrawingElement *state, Damage &damage)
 {
     ElementPtr previous = copyOf(&live);
-    damage |= live.paintedRect();
+    damage.add(live);
     if (state)
         copyGeometry(*state, live);
-    damage |= live.paintedRect();
+    damage.add(live);
     return previous;
 }
 
@@ -90,7 +90,7 @@ HistoryEntry *History::findRemoval(const QString &elementId)
     return entry ? entry : find(m_redo, removed);
 }
 
-bool History::undo(ElementList &elements, QRect &damage)
+bool History::undo(ElementList &elements, Damage &damage)
 {
     if (m_undo.empty()) {
         qDebug() << CanvasLog::kNothingToUndo;
@@ -120,7 +120,7 @@ bool History::undo(ElementList &elements, QRect &damage)
     return true;
 }
 
-bool History::redo(ElementList &elements, QRect &damage)
+bool History::redo(ElementList &elements, Damage &damage)
 {
     if (m_redo.empty()) {
         qDebug() << CanvasLog::kNothingToRedo;

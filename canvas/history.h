@@ -1,8 +1,8 @@
 #pragma once
 
+#include "canvas/damage.h"
 #include "elements/drawingelement.h"
 
-#include <QRect>
 #include <QString>
 
 #include <vector>
@@ -44,16 +44,16 @@ public:
     [[nodiscard]] HistoryEntry *findRemoval(const QString &elementId);
 
     /// False when there is nothing to undo. `damage` grows by the area that changed.
-    bool undo(ElementList &elements, QRect &damage);
+    bool undo(ElementList &elements, Damage &damage);
     /// False when there is nothing to redo. `damage` grows by the area that changed.
-    bool redo(ElementList &elements, QRect &damage);
+    bool redo(ElementList &elements, Damage &damage);
 
 private:
     using Stack = std::vector<HistoryEntry>;
     /// What one undo or redo works with.
     struct Step {
         ElementList &elements;
-        QRect &damage;
+        Damage &damage;
     };
 
     void undoAdd(HistoryEntry entry, Step step);

@@ -141,7 +141,7 @@ void MyPainter::endPaint(QPoint pos, bool shiftPressed)
 
 void MyPainter::undo()
 {
-    QRect damage;
+    Damage damage;
     if (!m_document.history.undo(m_document.elements, damage))
         return;
     if (drawMode() == NumberedCircleMode)
@@ -151,7 +151,7 @@ void MyPainter::undo()
 
 void MyPainter::redo()
 {
-    QRect damage;
+    Damage damage;
     if (!m_document.history.redo(m_document.elements, damage))
         return;
     if (drawMode() == NumberedCircleMode)
@@ -159,7 +159,7 @@ void MyPainter::redo()
     historyMoved(damage);
 }
 
-void MyPainter::historyMoved(const QRect &damage)
+void MyPainter::historyMoved(const Damage &damage)
 {
     contentChanged(damage, 0);
     m_document.reportBothStacks();
@@ -344,9 +344,9 @@ void MyPainter::breathingReported(bool on)
     setIsBreath(on);
 }
 
-void MyPainter::contentChanged(const QRect &area, int lowest)
+void MyPainter::contentChanged(const Damage &damage, int lowest)
 {
-    m_renderer.contentChanged(area, lowest, canvasSize());
+    m_renderer.contentChanged(damage, lowest, canvasSize());
     update();
 }
 

@@ -141,11 +141,11 @@ private:
     void selectionChanged() override;
     void elementCompleted(const QString &elementId) override;
     void breathingReported(bool on) override;
-    void contentChanged(const QRect &area, int lowest) override;
+    void contentChanged(const Damage &damage, int lowest) override;
 
     [[nodiscard]] QSize canvasSize() const;
     [[nodiscard]] qreal pixelRatio() const;
-    void historyMoved(const QRect &damage);
+    void historyMoved(const Damage &damage);
 
     bool m_isBreath = false;
     QString m_textToDraw;

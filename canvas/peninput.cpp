@@ -96,13 +96,14 @@ void PenInput::reshape(const QPoint &target)
         m_document.reportReshaped(*stroke, stroke->replacePoints(m_strokePoints));
         return;
     }
-    const QRect before = current->paintedRect();
+    Damage damage(current->paintedRect());
     if (auto *circle = dynamic_cast<CircleElement *>(current)) {
         circle->radius = distanceBetween(m_startPos, target);
     } else if (auto *shape = dynamic_cast<TwoPointElement *>(current)) {
         shape->end = target;
     }
-    m_document.reportReshaped(*current, before | current->paintedRect());
+    damage.add(current->paintedRect());
+    m_document.reportReshaped(*current, damage);
 }
 
 ElementPtr PenInput::createElement(const QPoint &target) const

@@ -40,14 +40,14 @@ QRect devicePixels(const QRect &area, qreal ratio)
 
 } // namespace
 
-void Renderer::contentChanged(const QRect &area, int lowest, const QSize &size)
+void Renderer::contentChanged(const Damage &damage, int lowest, const QSize &size)
 {
     if (m_staleAfterResize || m_picture.isNull() || size != m_size) {
         rebuild(size);
         return;
     }
     m_lowest = std::min(m_lowest, lowest);
-    m_damage |= area.intersected(QRect(QPoint(), size));
+    m_damage.add(damage);
 }
 
 void Renderer::rebuild(const QSize &size)
@@ -77,7 +77,7 @@ const QImage &Renderer::picture()
         repaintAll();
     else if (m_lowest != kNothingChanged)
         repaintDamage();
-    m_damage = QRect();
+    m_damage.clear();
     m_lowest = kNothingChanged;
     return m_picture;
 }
@@ -113,23 +113,29 @@ void Renderer::repaintDamage()
     const int topmost = m_elements.size() - 1;
     const int paintedCount = std::exchange(m_paintedCount, m_elements.size());
     const bool onlyAppended = topmost == paintedCount && m_lowest >= paintedCount;
-    if (onlyAppended || m_lowest < m_beneathCount || m_beneathCount != topmost) {
+    if (onlyAppended || m_beneathCount != topmost) {
         forgetBeneath();
         m_beneathCount = topmost;
         m_picturesBeneath = onlyAppended;
     }
-    const QRect pixels =
-        devicePixels(m_damage, m_picture.devicePixelRatio()).intersected(m_picture.rect());
-    if (pixels.isEmpty())
-        return;
-    if (topmost >= 0 && m_lowest >= topmost) {
-        repaintTopmost(pixels);
-    } else {
+    if (topmost < 0 || m_lowest < topmost)
         forgetBeneath();
-        repaint(pixels, topmost);
-    }
+    for (const QRect &area : m_damage.areas())
+        repaintArea(area & QRect(QPoint(), m_size));
     if (checksRepaints)
         checkPicture();
+}
+
+void Renderer::repaintArea(const QRect &area)
+{
+    const QRect pixels =
+        devicePixels(area, m_picture.devicePixelRatio()).intersected(m_picture.rect());
+    if (pixels.isEmpty())
+        return;
+    if (m_beneathCount >= 0)
+        repaintTopmost(pixels);
+    else
+        repaint(pixels, m_elements.size() - 1);
 }
 
 void Renderer::repaintTopmost(const QRect &pixels)
@@ -168,7 +174,7 @@ void Renderer::paintInto(const QRect &pixels, int first, int last)
     painter.setClipRect(pixels);
     painter.resetTransform();
     for (int i = first; i <= last; ++i) {
-        if (m_elements.at(i)->paintedRect().intersects(area))
+        if (m_elements.at(i)->paintsInto(area))
             paintElement(painter, *m_elements.at(i));
     }
 }
@@ -193,6 +199,6 @@ void Renderer::checkPicture() const
     paintElements(painter, m_elements);
     painter.end();
     if (whole != m_picture)
-        qWarning() << "Repainting" << m_damage << "from element" << m_lowest
+        qWarning() << "Repainting" << m_damage.areas() << "from element" << m_lowest
                    << "on gave another picture than repainting everything";
 }

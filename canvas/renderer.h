@@ -1,5 +1,6 @@
 #pragma once
 
+#include "canvas/damage.h"
 #include "canvas/savedtiles.h"
 
 #include <QImage>
@@ -31,9 +32,9 @@ class Renderer
 public:
     explicit Renderer(const ElementList &elements) : m_elements(elements) { }
 
-    /// The list now paints differently inside `area`, which may be empty; the elements below index
-    /// `lowest` paint as before. `size` is the canvas's.
-    void contentChanged(const QRect &area, int lowest, const QSize &size);
+    /// The list now paints differently where `damage`, which may be empty, tells; the elements
+    /// below index `lowest` paint as before. `size` is the canvas's.
+    void contentChanged(const Damage &damage, int lowest, const QSize &size);
     /// Everything may look different.
     void rebuild(const QSize &size);
     /// Gives the picture a new size without painting the elements anew.
@@ -54,6 +55,7 @@ private:
     [[nodiscard]] QImage emptyPicture(const QSize &size) const;
     void repaintAll();
     void repaintDamage();
+    void repaintArea(const QRect &area);
     /// Paints the elements `first` to `last`, both included, into these pixels of the picture.
     void paintInto(const QRect &pixels, int first, int last);
     /// The same onto nothing.
@@ -66,7 +68,7 @@ private:
     QImage m_picture;
     qreal m_ratio = 1.0;
     QSize m_size; ///< of the canvas at the last change of content
-    QRect m_damage;
+    Damage m_damage;
     int m_lowest = std::numeric_limits<int>::max(); ///< the lowest element that may have changed
                                                     ///< since the last repaint
     int m_paintedCount = 0; ///< elements at the last repaint

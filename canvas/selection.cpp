@@ -98,9 +98,10 @@ QRectF Selection::boundingRect() const
 template <typename Change> void Selection::transform(DrawingElement &element, Change change)
 {
     ElementPtr before = m_batchStart ? nullptr : copyOf(&element);
-    QRect damage = element.paintedRect();
+    Damage damage;
+    damage.add(element);
     change(element);
-    damage |= element.paintedRect();
+    damage.add(element);
     const int place = m_document.elements.placeOf(element);
     if (before) {
         record(std::move(before), element);

@@ -36,6 +36,16 @@ QRect DrawingElement::paintedRect() const
         QRectF(boundingRect()), std::max(penWidth, 0) + double(kUnknownKindMarginPx));
 }
 
+std::vector<QRect> DrawingElement::paintedPieces() const
+{
+    return { paintedRect() };
+}
+
+bool DrawingElement::paintsInto(const QRect &area) const
+{
+    return paintedRect().intersects(area);
+}
+
 void DrawingElement::setUpPen(QPainter *painter) const
 {
     QColor penColor = color;

@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 class QPainter;
 
@@ -46,6 +47,11 @@ public:
     /// glyph overhang and antialiasing included.
     /// Cheap enough to ask of every element of a full canvas on each change.
     virtual QRect paintedRect() const;
+    /// A few rectangles that, together, hold every pixel that `paint` may touch. They leave out
+    /// what a winding mark goes around.
+    virtual std::vector<QRect> paintedPieces() const;
+    /// Whether `paint` may touch a pixel of `area`; cheaper than painting to find out.
+    virtual bool paintsInto(const QRect &area) const;
 
     QString id; ///< braced UUID; copies keep the id of their source
     qint32 type; ///< a `Kind`

@@ -13,6 +13,7 @@ namespace
 {
 /// Device pixels; the rasterizer cuts lines off at about twice as far.
 constexpr QRectF kRasterRange(-16384, -16384, 32768, 32768);
+constexpr std::size_t kMostPieces = 16;
 
 /// Unlike Qt's union, it does not leave out a rectangle without width or height.
 QRectF spanning(const QRectF &a, const QRectF &b)
@@ -56,7 +57,9 @@ void FreehandElement::drawPath(QPainter *painter) const
         painter->drawPath(path);
         return;
     }
-    painter->strokePath(visiblePath(*painter), painter->pen());
+    const QPainterPath visible = visiblePath(*painter);
+    if (!visible.isEmpty())
+        painter->strokePath(visible, painter->pen());
 }
 
 QPainterPath FreehandElement::visiblePath(const QPainter &painter) const
@@ -128,6 +131,33 @@ QRect FreehandElement::paintedRect() const
     if (points.isEmpty())
         return {};
     return geometry::enclosingRect(pointsArea(), penReach());
+}
+
+std::vector<QRect> FreehandElement::paintedPieces() const
+{
+    if (path.isEmpty())
+        return { paintedRect() };
+    const std::vector<StretchIndex::Stretch> &all = stretches().stretches();
+    const std::size_t perPiece = (all.size() + kMostPieces - 1) / kMostPieces;
+    std::vector<QRect> pieces;
+    for (std::size_t i = 0; i < all.size(); i += perPiece) {
+        QRectF area = all[i].bounds;
+        for (std::size_t j = i + 1; j < std::min(i + perPiece, all.size()); ++j)
+            area = spanning(area, all[j].bounds);
+        pieces.push_back(geometry::enclosingRect(area, penReach()));
+    }
+    return pieces;
+}
+
+bool FreehandElement::paintsInto(const QRect &area) const
+{
+    if (!paintedRect().intersects(area))
+        return false;
+    const std::vector<StretchIndex::Stretch> &all = stretches().stretches();
+    return path.isEmpty()
+        || std::any_of(all.begin(), all.end(), [&](const StretchIndex::Stretch &stretch) {
+               return geometry::enclosingRect(stretch.bounds, penReach()).intersects(area);
+           });
 }
 
 QRect FreehandElement::replacePoints(const QList<QPoint> &replacement)

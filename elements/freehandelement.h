@@ -22,6 +22,8 @@ public:
     QRect boundingRect() const override;
     void scaleAxes(double factorX, double factorY, const QPoint &center) override;
     QRect paintedRect() const override;
+    std::vector<QRect> paintedPieces() const override;
+    bool paintsInto(const QRect &area) const override;
     /// Takes these points, rebuilds the curve and answers every pixel that may have changed. While
     /// a stroke grows, each list being the one before with more points at its end, that is only its
     /// end, and costs no more than its end does, however long it has become.

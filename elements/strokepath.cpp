@@ -12,7 +12,7 @@ using Element = QPainterPath::Element;
 
 /// Elements of a path that make a stretch: large enough to skip much at once, small enough to skip
 /// most of a long stroke.
-constexpr int kStretch = 96;
+constexpr int kStretch = 48;
 
 /// Unlike those of Qt, empty rectangles also meet others, and edges count.
 bool meets(const QRectF &bounds, const QRectF &area)
@@ -32,7 +32,7 @@ void include(QRectF &bounds, const QPointF &point)
 /// Whether the rectangle around the segment's start and the elements that make it meets `area`.
 bool comesInto(const QRectF &area, const Element &start, const Element *elements, int count)
 {
-    QRectF bounds{ QPointF(start), QSizeF() };
+    QRectF bounds{ QPointF(start), QSizeF(0, 0) };
     for (const Element *element = elements; element < elements + count; ++element)
         include(bounds, *element);
     return meets(bounds, area);
@@ -97,7 +97,7 @@ void StretchIndex::extend(const QPainterPath &path)
     int i = m_stretches.empty() ? 1 : m_stretches.back().end;
     while (i < count) {
         if (m_stretches.empty() || m_stretches.back().end - m_stretches.back().first >= kStretch)
-            m_stretches.push_back({ i, i, QRectF(QPointF(path.elementAt(i - 1)), QSizeF()) });
+            m_stretches.push_back({ i, i, QRectF(QPointF(path.elementAt(i - 1)), QSizeF(0, 0)) });
         Stretch &stretch = m_stretches.back();
         const int length = path.elementAt(i).isCurveTo() ? 3 : 1;
         for (const int end = i + length; i < end; ++i)

@@ -14,6 +14,7 @@ QFont textFont(int sizePx, QFont::Weight weight = QFont::Normal)
 #endif
     font.setPixelSize(sizePx);
     font.setWeight(weight);
+    font.setCapitalization(QFont::MixedCase); // the style of the controls may say otherwise
     return font;
 }
 

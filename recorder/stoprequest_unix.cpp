@@ -5,6 +5,7 @@
 #include <csignal>
 
 #include <fcntl.h>
+#include <sys/prctl.h>
 #include <unistd.h>
 
 namespace
@@ -38,7 +39,9 @@ StopRequest::StopRequest(QObject *parent)
     });
     for (const int number : { SIGTERM, SIGINT, SIGHUP })
         std::signal(number, onSignal);
-    // A recording outlives the terminal or panel that listened to its notes.
+    // Nobody else would ever end a recording whose starter crashed.
+    ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+    // A recording outlives whoever listened to its notes.
     std::signal(SIGPIPE, SIG_IGN);
 }
 

@@ -6,6 +6,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QFileDialog>
+#include <QWindow>
 
 std::optional<QString> chooseDirectory(const QString &startPath)
 {
@@ -13,8 +14,13 @@ std::optional<QString> chooseDirectory(const QString &startPath)
         qWarning() << LogTexts::kNoWidgetApplication;
         return std::nullopt;
     }
-    return QFileDialog::getExistingDirectory(QApplication::activeWindow(),
+    QFileDialog dialog(QApplication::activeWindow(),
         QCoreApplication::translate("SettingsClazz", "选择保存目录"),
-        startPath.isEmpty() ? QDir::homePath() : startPath,
-        QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
+        startPath.isEmpty() ? QDir::homePath() : startPath);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
+    // The window that asks may stay above all others, but not above its own dialog.
+    dialog.winId();
+    dialog.windowHandle()->setTransientParent(QGuiApplication::focusWindow());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }

@@ -384,12 +384,12 @@
         <translation>The recording was too short to hold anything</translation>
     </message>
     <message>
-        <source>无法创建文件夹 %1</source>
-        <translation>The folder %1 cannot be created</translation>
+        <source>无法创建文件夹 %1，请在设置中另选一个</source>
+        <translation>The folder %1 cannot be created. Choose another one in the settings</translation>
     </message>
     <message>
-        <source>无法启动录制程序：%1</source>
-        <translation>The recorder cannot be started: %1</translation>
+        <source>无法启动录制程序：%1。请重新安装本程序</source>
+        <translation>The recorder cannot be started: %1. Install this program again</translation>
     </message>
     <message>
         <source>录制程序意外结束。已录制的部分没有丢失</source>
@@ -517,7 +517,7 @@
     </message>
     <message>
         <source>设置</source>
-        <translation>Settings</translation>
+        <translation>Setup</translation>
     </message>
     <message>
         <source>退出</source>

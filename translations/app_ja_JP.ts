@@ -384,12 +384,12 @@
         <translation>録画が短すぎて内容がありません</translation>
     </message>
     <message>
-        <source>无法创建文件夹 %1</source>
-        <translation>フォルダー %1 を作成できません</translation>
+        <source>无法创建文件夹 %1，请在设置中另选一个</source>
+        <translation>フォルダー %1 を作成できません。設定で別のフォルダーを選んでください</translation>
     </message>
     <message>
-        <source>无法启动录制程序：%1</source>
-        <translation>録画プログラムを起動できません：%1</translation>
+        <source>无法启动录制程序：%1。请重新安装本程序</source>
+        <translation>録画プログラムを起動できません：%1。このプログラムを再インストールしてください</translation>
     </message>
     <message>
         <source>录制程序意外结束。已录制的部分没有丢失</source>

@@ -384,12 +384,12 @@
         <translation>녹화 시간이 너무 짧아 내용이 없습니다</translation>
     </message>
     <message>
-        <source>无法创建文件夹 %1</source>
-        <translation>폴더 %1을(를) 만들 수 없습니다</translation>
+        <source>无法创建文件夹 %1，请在设置中另选一个</source>
+        <translation>폴더 %1을(를) 만들 수 없습니다. 설정에서 다른 폴더를 선택하세요</translation>
     </message>
     <message>
-        <source>无法启动录制程序：%1</source>
-        <translation>녹화 프로그램을 시작할 수 없습니다: %1</translation>
+        <source>无法启动录制程序：%1。请重新安装本程序</source>
+        <translation>녹화 프로그램을 시작할 수 없습니다: %1. 이 프로그램을 다시 설치하세요</translation>
     </message>
     <message>
         <source>录制程序意外结束。已录制的部分没有丢失</source>

@@ -384,12 +384,12 @@
         <translation>录制时间太短，没有内容</translation>
     </message>
     <message>
-        <source>无法创建文件夹 %1</source>
-        <translation>无法创建文件夹 %1</translation>
+        <source>无法创建文件夹 %1，请在设置中另选一个</source>
+        <translation>无法创建文件夹 %1，请在设置中另选一个</translation>
     </message>
     <message>
-        <source>无法启动录制程序：%1</source>
-        <translation>无法启动录制程序：%1</translation>
+        <source>无法启动录制程序：%1。请重新安装本程序</source>
+        <translation>无法启动录制程序：%1。请重新安装本程序</translation>
     </message>
     <message>
         <source>录制程序意外结束。已录制的部分没有丢失</source>

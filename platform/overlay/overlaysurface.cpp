@@ -6,6 +6,17 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QTimer>
+
+namespace
+{
+constexpr int kHeirSettleMs = 150; // longer than a window manager takes to pass the keyboard on
+
+bool isEraser(const QPointerEvent *event)
+{
+    return event->pointerType() == QPointingDevice::PointerType::Eraser;
+}
+} // namespace
 
 OverlaySurface::OverlaySurface(QObject *parent) : QObject(parent)
 {
@@ -26,6 +37,8 @@ void OverlaySurface::setWindow(QWindow *window)
     m_backend = OverlayBackend::create(window);
     connect(m_backend.get(), &OverlayBackend::compositedChanged, this,
         &OverlaySurface::compositedChanged);
+    // Qt Quick ends every gesture when the program loses the keyboard; see eventFilter.
+    disconnect(qGuiApp, &QGuiApplication::applicationStateChanged, window, nullptr);
     watchScreens();
     emit windowChanged();
     emit compositedChanged();
@@ -145,6 +158,12 @@ void OverlaySurface::inheritFocus()
         m_backend->takeFocus();
 }
 
+/// Or the popup did that it had opened, which is gone by now.
+bool OverlaySurface::hadFocusUntilNow(const QObject *hidden) const
+{
+    return !m_lastFocused || m_lastFocused == hidden || !m_lastFocused->isVisible();
+}
+
 bool OverlaySurface::eventFilter(QObject *watched, QEvent *event)
 {
     if (!watched->isWindowType() || !m_window)
@@ -152,8 +171,11 @@ bool OverlaySurface::eventFilter(QObject *watched, QEvent *event)
     if (watched != m_window) {
         if (event->type() == QEvent::Expose)
             stackOther(static_cast<QWindow *>(watched));
-        else if (event->type() == QEvent::Hide && watched == m_lastFocused)
+        else if (event->type() == QEvent::Hide && hadFocusUntilNow(watched)) {
+            // Window managers choose an heir themselves; the last word comes after them.
             QMetaObject::invokeMethod(this, &OverlaySurface::inheritFocus, Qt::QueuedConnection);
+            QTimer::singleShot(kHeirSettleMs, this, &OverlaySurface::inheritFocus);
+        }
         return false;
     }
     // Qt Quick would end the gesture; the pointer still belongs to the window that was pressed.
@@ -177,9 +199,16 @@ void OverlaySurface::followPointer(const QEvent *event)
         const auto *mouse = static_cast<const QMouseEvent *>(event);
         m_buttonDown = mouse->buttons() != Qt::NoButton;
         if (event->type() == QEvent::MouseButtonPress)
-            setEraserTip(mouse->pointerType() == QPointingDevice::PointerType::Eraser);
+            setEraserTip(m_penErases || isEraser(mouse));
         break;
     }
+    // On some systems the mouse follows the pen, and says nothing of its ends.
+    case QEvent::TabletPress:
+        m_penErases = isEraser(static_cast<const QTabletEvent *>(event));
+        return;
+    case QEvent::TabletRelease:
+        m_penErases = false;
+        return;
     case QEvent::Enter: // the pointer was elsewhere, so no gesture of the overlay's is under way
         m_buttonDown = false;
         break;

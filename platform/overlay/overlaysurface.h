@@ -67,6 +67,7 @@ private:
     [[nodiscard]] QScreen *screenToCover() const;
     void followPointer(const QEvent *event);
     void inheritFocus();
+    [[nodiscard]] bool hadFocusUntilNow(const QObject *hidden) const;
     void loseKeyboard();
     void setEraserTip(bool eraserTip);
     void stackOther(QWindow *other);
@@ -83,4 +84,5 @@ private:
     bool m_buttonDown = false; ///< on the overlay's window
     bool m_lostKeyboard = false; ///< amid a gesture, which goes on
     bool m_eraserTip = false;
+    bool m_penErases = false; ///< a tablet pen is down with its eraser end
 };

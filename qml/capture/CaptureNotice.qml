@@ -5,7 +5,8 @@ import "FileUrls.js" as FileUrls
 import "Notices.js" as Notices
 import "Theme.js" as Theme
 
-/// Tells in a corner of the screen what became of a capture. A click opens the file's folder.
+/// Tells in a corner of the screen what became of a capture. A click opens the file's folder. The
+/// corner is an upper one: below a region stand the buttons for another try.
 Window {
     id: root
 
@@ -16,7 +17,7 @@ Window {
     property string filePath: ""
     property bool isFailure: false
 
-    /// Leaves room for a palette at the edge of the screen.
+    /// Leaves room for a palette at the edge of the screen, or a panel of the desktop.
     readonly property int screenGap: 48
     readonly property int shownMs: 8000
 
@@ -28,13 +29,13 @@ Window {
     Component.onDestruction: Notices.forget(root)
 
     screen: Application.screens[0]
-    title: heading
+    title: detail === "" ? heading : heading + " · " + detail
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint | Qt.WindowDoesNotAcceptFocus
     color: "transparent"
     width: 340
     height: texts.height + 32
     x: Screen.virtualX + Screen.width - width - screenGap
-    y: Screen.virtualY + Screen.height - height - screenGap
+    y: Screen.virtualY + screenGap
     visible: true
 
     Rectangle {

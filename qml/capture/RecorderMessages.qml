@@ -26,9 +26,9 @@ QtObject {
     function controllerFailure(message) {
         const detail = message.slice(message.indexOf(": ") + 2);
         if (message.startsWith("Failed to create output directory: "))
-            return qsTr("无法创建文件夹 %1").arg(detail);
+            return qsTr("无法创建文件夹 %1，请在设置中另选一个").arg(detail);
         if (message.startsWith("Failed to start recorder.exe: "))
-            return qsTr("无法启动录制程序：%1").arg(detail);
+            return qsTr("无法启动录制程序：%1。请重新安装本程序").arg(detail);
         return qsTr("录制程序意外结束。已录制的部分没有丢失");
     }
 

@@ -148,6 +148,7 @@ Item {
                 minimumY: 0
                 maximumY: root.height - frame.height
                 threshold: 0
+                smoothed: false
             }
             onPressed: root.touched = true
             onPositionChanged: root.storeCorners()

@@ -106,7 +106,9 @@ Window {
             heading: qsTr("录制失败"),
             detail: detail,
             filePath: captureObject.report.filePath,
-            isFailure: true
+            isFailure: true,
+            // A panel that stays would lie over it.
+            transientParent: leaving ? null : root
         });
     }
 
@@ -134,7 +136,7 @@ Window {
         Notices.clear();
         requestActivate();
     }
-    // Closed in the midst of a recording, which the recorder finishes by itself.
+    // Closed in the midst of a recording, whose file is whole but for its last moment.
     Component.onDestruction: {
         if (captureObject.isRecording())
             tellSaved();

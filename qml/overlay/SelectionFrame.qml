@@ -104,7 +104,7 @@ Item {
         border.width: 2
     }
 
-    FluText {
+    HintText {
         readonly property bool fits: root.y + root.height + 5 + height <= root.parent.height
 
         y: fits ? root.height + 5 : -5 - height

@@ -71,10 +71,10 @@ Rectangle {
     }
     Component.onDestruction: root.editorDestroyed()
 
-    FluText {
+    HintText {
         visible: root.showText
         // Above the frame, or below it where the screen ends.
-        y: root.y >= height ? -height : root.height
+        y: root.y >= height + 2 ? -height - 2 : root.height + 2
         text: qsTr("Ctrl+滚轮调整字体|Ctrl+Enter换行|ESC:取消")
         textColor: "red"
         font.pixelSize: 10

@@ -45,7 +45,7 @@ Window {
 
     Rectangle {
         anchors.fill: parent
-        radius: 5
+        radius: 4
         color: Theme.tipBackground
 
         Text {

@@ -1,4 +1,5 @@
 import QtQuick
+import Dravelin.Platform
 
 /// The logo on top of the palette, by which it is dragged; the arrow keys move it as well.
 MyIconButton {
@@ -13,14 +14,19 @@ MyIconButton {
     /// The palette was moved and let go.
     signal moved()
 
-    function moveBy(dx, dy) {
+    function moveTo(x, y) {
         flyouts.close();
-        palette.x += dx;
-        palette.y += dy;
+        palette.x = x;
+        palette.y = y;
+    }
+
+    function followPointer() {
+        const pos = pointer.now();
+        moveTo(pos.x - palette.dragX, pos.y - palette.dragY);
     }
 
     function moveByKey(dx, dy) {
-        moveBy(dx * keyStep, dy * keyStep);
+        moveTo(palette.x + dx * keyStep, palette.y + dy * keyStep);
         moved();
     }
 
@@ -43,12 +49,14 @@ MyIconButton {
         palette.dragX = mouse.x;
         palette.dragY = mouse.y;
     }
-    onPositionChanged: mouse => {
+    onPositionChanged: {
         if (palette.dragging)
-            moveBy(mouse.x - palette.dragX, mouse.y - palette.dragY);
+            followPointer();
     }
     onRelease: letGo()
     onCanceled: letGo()
+    PointerPosition { id: pointer }
+
     Keys.onLeftPressed: moveByKey(-1, 0)
     Keys.onRightPressed: moveByKey(1, 0)
     Keys.onUpPressed: moveByKey(0, -1)

@@ -11,7 +11,6 @@ Column {
 
     readonly property var flyout: modelData.flyout
     readonly property real scaleFactor: flyout.scaleFactor
-    readonly property bool isLast: index === flyout.customData.length - 1
     readonly property string kind: ["qrc:/FlyoutIconRow.qml", "qrc:/FlyoutPictureRow.qml",
                                     "qrc:/FlyoutTextRow.qml"][flyout.btnType]
 
@@ -40,9 +39,8 @@ Column {
 
     Rectangle {
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.round(root.width * 0.7)
+        width: Math.round(root.flyout.width * 0.7)
         height: Math.round(root.scaleFactor)
         color: Theme.separator
-        opacity: root.isLast ? 0 : 1
     }
 }

@@ -24,7 +24,7 @@ Window {
     property real arrowY: height / 2
 
     readonly property int arrowSide: Math.round(20 * scaleFactor)
-    readonly property int arrowReach: Math.round(8 * scaleFactor)
+    readonly property int arrowReach: Math.round(5 * scaleFactor)
 
     signal changeSelect(int index, var value)
 
@@ -53,31 +53,20 @@ Window {
         x: root.pointsRight ? 0 : root.arrowReach
         width: root.width - root.arrowReach
         height: root.height
-        radius: Math.round(10 * root.scaleFactor)
+        // Between two whole ratios only multiples of four fall on whole device pixels.
+        radius: Screen.devicePixelRatio === Math.round(Screen.devicePixelRatio)
+                ? Math.round(10 * root.scaleFactor) : 4 * Math.round(10 * root.scaleFactor / 4)
         color: Theme.paper
         border { color: Theme.hairline; width: 1 }
     }
 
-    // The arrow is a square that stands on its tip; only the half outside the panel shows.
-    Rectangle {
-        id: arrow
-        readonly property real margin: panel.radius + root.arrowSide / 2
-        x: (root.pointsRight ? root.width - root.arrowSide / 2 : root.arrowSide / 2) - width / 2
-        y: Math.max(margin, Math.min(root.arrowY, root.height - margin)) - height / 2
-        width: root.arrowSide / Math.SQRT2
-        height: width
-        rotation: 45
-        antialiasing: true
-        color: Theme.paper
-        border { color: Theme.hairline; width: 1 }
-    }
-
-    Rectangle {
-        x: root.pointsRight ? panel.width - 1 - width : panel.x + 1
-        y: arrow.y + arrow.height / 2 - height / 2
-        width: root.arrowSide / 2
+    FlyoutArrow {
+        readonly property real margin: panel.radius + height / 2
+        x: root.pointsRight ? root.width - width : 0
+        y: Math.round(Math.max(margin, Math.min(root.arrowY, root.height - margin)) - height / 2)
+        width: root.arrowReach + panel.border.width
         height: root.arrowSide
-        color: Theme.paper
+        pointsRight: root.pointsRight
     }
 
     Column {

@@ -49,7 +49,7 @@ struct Board {
 
     ElementList elements;
     History history;
-    QRect damage;
+    Damage damage;
 };
 
 } // namespace
@@ -74,10 +74,11 @@ void TestHistory::additions()
     const LogRecorder log;
     Board board;
     QVERIFY(!board.redo());
-    QVERIFY(board.damage.isNull());
+    QVERIFY(board.damage.areas().empty());
     QVERIFY(board.undo());
     QCOMPARE(board.state(), "ab AA A");
-    QVERIFY(board.damage.contains(QRect(QPoint(1, 2), QPoint(30, 40))));
+    QCOMPARE(board.damage.areas().size(), std::size_t(1));
+    QVERIFY(board.damage.areas()[0].contains(QRect(QPoint(1, 2), QPoint(30, 40))));
     QVERIFY(board.redo());
     QCOMPARE(board.state(), "abc AAA ");
     board.history.clear();

@@ -129,7 +129,8 @@ class DrawingTest(OverlayTestCase):
         plain = self.desktop.open_window("Notice", (700, 100, 200, 100))
         self.desktop.windows.activate(plain.window)
         self.wait_for(lambda: self.desktop.windows.active == plain.window, "the keyboard to go")
-        self.desktop.pointer.glide([(250, 600), (350, 600)])
+        # Slowly: the program learns of it only after a while.
+        self.desktop.pointer.glide([(250, 600), (350, 600)], samples=100)
         self.desktop.pointer.release()
         self.wait_for_red(345, 600, "the rest of the stroke")
         self.desktop.pointer.drag([(150, 650), (350, 650)])
@@ -319,6 +320,7 @@ class InputMethodTest(OverlayTestCase):
         self.wait_for(lambda: not self.candidates(), "the choice to be made")
         self.desktop.keyboard.type("zhong")
         self.wait_for(self.candidates, "the next choices")
+        self.wait_until_settled()  # every letter has arrived
         self.desktop.pointer.click(800, 600)
         self.program.wait_for_log('接收到的原始文本: "你好zhong"')
 

@@ -90,6 +90,7 @@ class PaletteTest(desktop.DesktopTestCase):
         self.expect_flyouts(1248, -55 * SCALE)
         start = self.palette.point("handle")
         self.desktop.pointer.drag([start, (400, start[1])])
+        self.wait_for(lambda: self.window.geometry.x == 1248 + 400 - start[0], "the palette to follow")
         self.expect_flyouts(self.window.geometry.x, qt_round(50 * SCALE))
         # Tools that only drawing needs stay closed until then.
         for tool in ("pen", "shape", "board"):

@@ -98,6 +98,7 @@ class UpdateTestCase(desktop.DesktopTestCase):
         """Waits for the notice and has it install what it offers."""
         notice = self.program.window(title=NOTICE)
         self.expect_asking(notice)
+        self.idle_height = notice.geometry.height
         self.press(notice, 0)
         return notice
 
@@ -119,6 +120,7 @@ class UpdateTest(UpdateTestCase):
         service = self.serve()
         service.may_send_file.clear()
         notice = self.accept()
+        self.wait_for(lambda: notice.geometry.height > self.idle_height, "room for the progress")
         self.expect_asking(notice, False)
         self.press(notice, 0)
         self.expect_asking(notice)
@@ -147,11 +149,9 @@ class RefusalTest(UpdateTestCase):
 
     def test_a_damaged_file_is_dropped_and_the_reason_shown(self):
         self.serve(damaged=True)
-        notice = self.program.window(title=NOTICE)
-        height = notice.geometry.height
-        self.accept()
+        notice = self.accept()
         self.program.wait_for_log("校验值不符")
-        self.wait_for(lambda: notice.geometry.height > height, "the notice to make room for the reason")
+        self.wait_for(lambda: notice.geometry.height > self.idle_height, "room for the reason")
         self.expect_asking(notice)  # once more
         self.assertTrue(self.program.running)
         self.assertFalse(os.path.exists(os.path.join(self.app_folder, "updater")))

@@ -36,6 +36,10 @@ QRect touched(const QImage &image)
 void compareWithInk(const DrawingElement &element, int slack, double magnification = 1.0)
 {
     const QRect ink = touched(samples::painted(element, kCanvas, kOrigin, magnification));
+    QRect pieces;
+    for (const QRect &piece : element.paintedPieces())
+        pieces |= piece;
+    QVERIFY2(pieces.contains(ink), "the pieces leave ink out");
     const QRect promised = element.paintedRect();
     const QRect sensible = ink.adjusted(-slack, -slack, slack, slack);
     QString report;

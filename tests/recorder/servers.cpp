@@ -48,11 +48,6 @@ bool XServer::start(int width, int height)
     return true;
 }
 
-bool XServer::paint(const QString &colour) const
-{
-    return QProcess::execute("xsetroot", { "-display", m_display, "-solid", colour }) == 0;
-}
-
 SoundServer::~SoundServer()
 {
     for (const auto &player : m_players)

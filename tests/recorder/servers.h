@@ -17,8 +17,6 @@ public:
     /// Returns whether it runs.
     bool start(int width, int height);
     QString display() const { return m_display; }
-    /// Fills the screen.
-    bool paint(const QString &colour) const;
 
 private:
     QProcess m_process;

@@ -23,30 +23,16 @@ VideoFacts VideoFacts::of(const QString &path)
 {
     const QByteArray json = outputOf("ffprobe",
         { "-v", "error", "-of", "json", "-count_frames", "-show_entries",
-            "stream=codec_type,width,height,duration,nb_read_frames", path });
+            "stream=codec_type,duration,nb_read_frames", path });
     VideoFacts facts;
     const QJsonArray streams = QJsonDocument::fromJson(json)["streams"].toArray();
     for (const QJsonValue stream : streams) {
-        if (stream["codec_type"].toString() == "audio")
-            facts.hasSound = true;
         if (stream["codec_type"].toString() != "video")
             continue;
-        facts.size = QSize(stream["width"].toInt(), stream["height"].toInt());
-        facts.pictures = stream["nb_read_frames"].toString().toInt();
         facts.seconds = stream["duration"].toString().toDouble();
-        facts.plays = facts.pictures > 0;
+        facts.plays = stream["nb_read_frames"].toString().toInt() > 0;
     }
     return facts;
-}
-
-QColor VideoFacts::colourAt(const QString &path, double seconds)
-{
-    const QByteArray rgb = outputOf("ffmpeg",
-        { "-v", "error", "-ss", QString::number(seconds), "-i", path, "-frames:v", "1", "-vf",
-            "crop=2:2", "-pix_fmt", "rgb24", "-f", "rawvideo", "-" });
-    if (rgb.size() < 3)
-        return {};
-    return { static_cast<uchar>(rgb[0]), static_cast<uchar>(rgb[1]), static_cast<uchar>(rgb[2]) };
 }
 
 double VideoFacts::toneShare(const QString &path, int hertz)

@@ -7,8 +7,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include <cstdlib>
-
 namespace
 {
 
@@ -36,7 +34,6 @@ class TestProcessServices : public QObject
 private slots:
     void aMissingProgramKeepsThisOneRunning();
     void aProgramIsStartedAndThisOneQuits();
-    void theNewInstanceIsToldThatItIsARestart();
 };
 
 void TestProcessServices::aMissingProgramKeepsThisOneRunning()
@@ -62,24 +59,5 @@ void TestProcessServices::aProgramIsStartedAndThisOneQuits()
     QVERIFY(quitsThroughEventLoop(start));
 }
 
-void TestProcessServices::theNewInstanceIsToldThatItIsARestart()
-{
-    const QString marker = besideExecutable("restarted");
-    QFile::remove(marker);
-    QVERIFY(quitsThroughEventLoop([] { ProcessServices::restartApplication(); }));
-    QTRY_VERIFY(QFile::exists(marker));
-}
-
-/// The restarted test program only leaves a trace.
-int main(int argc, char **argv)
-{
-    QCoreApplication application(argc, argv);
-    if (QCoreApplication::arguments().mid(1) == QStringList{ "--restart" }) {
-        QFile marker(besideExecutable("restarted"));
-        return marker.open(QIODevice::WriteOnly) ? EXIT_SUCCESS : EXIT_FAILURE;
-    }
-    TestProcessServices test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_GUILESS_MAIN(TestProcessServices)
 #include "tst_processservices.moc"

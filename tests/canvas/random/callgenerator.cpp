@@ -1,6 +1,8 @@
 #include "tests/canvas/random/callgenerator.h"
 
 #include "canvas/fadeeffect.h"
+#include "elements/geometry.h"
+#include "elements/numberedcircleelement.h"
 #include "tests/canvas/random/historyoracle.h"
 
 #include <QDebug>
@@ -66,8 +68,25 @@ Call transform(const QString &text, bool valid, const std::function<void(MyPaint
     return { text, [=](Stage &stage) {
                 const bool happens = valid && stage.canvas.hasSelectedElement();
                 apply(stage.canvas);
-                return Expectation{ .repaint = always(happens), .quiet = !happens };
+                Expectation expected{ .repaint = always(happens), .quiet = !happens };
+                if (happens && !stage.inBatch)
+                    expected.records = { HistoryEntry::Transform };
+                return expected;
             } };
+}
+
+/// What a stamp on the board is wrong about, as far as its number goes.
+QString stampProblem(const Stage &stage)
+{
+    const ElementList &elements = stage.canvas.document().elements;
+    const auto *stamp = dynamic_cast<NumberedCircleElement *>(elements.last());
+    return stamp && stamp->number == stage.lastNumber ? QString()
+                                                      : QStringLiteral("another number is shown");
+}
+
+bool isNear(const QRectF &rect)
+{
+    return QRectF(-1e6, -1e6, 2e6, 2e6).contains(rect);
 }
 
 /// Steps the running effects of one kind, and answers whether there were any.
@@ -181,9 +200,11 @@ Call CallGenerator::press()
                     ++stage.lastNumber;
                 stage.gestureBegun = true;
                 stage.canvas.beginPaint(pos);
-                return stamps
-                    ? Expectation{ .repaint = Expectation::Always, .board = Expectation::Appended }
-                    : Expectation{ .quiet = true };
+                return stamps ? Expectation{ .repaint = Expectation::Always,
+                    .board = Expectation::Appended,
+                    .records = { { HistoryEntry::Add } },
+                    .problem = stampProblem(stage) }
+                              : Expectation{ .quiet = true };
             } };
 }
 
@@ -191,23 +212,27 @@ Call CallGenerator::move()
 {
     const QPoint pos = position();
     const bool shift = oneIn(3);
-    return { say("movePaint(%1, %2)", say(pos), shift ? "true" : "false"), [=](Stage &stage) {
-                MyPainter &canvas = stage.canvas;
-                if (!stage.hasSize() || stage.stampsNumbers()) {
-                    canvas.movePaint(pos, shift);
-                    return Expectation{ .quiet = true };
-                }
+    return { say("movePaint(%1, %2)", say(pos), shift ? "true" : "false"),
+        [=](Stage &stage) {
+            MyPainter &canvas = stage.canvas;
+            if (!stage.hasSize() || stage.stampsNumbers()) {
                 canvas.movePaint(pos, shift);
-                const bool erases = canvas.isEraserMode();
-                const bool drags = !erases && canvas.drawMode() >= MyPainter::FreehandMode
-                    && canvas.drawMode() <= MyPainter::ArrowMode;
-                const bool first =
-                    std::exchange(stage.gestureBegun, stage.gestureBegun && !erases && !drags);
-                return Expectation{ .repaint = Expectation::Always,
-                    .board = erases      ? Expectation::Reduced
-                        : drags && first ? Expectation::Appended
-                                         : Expectation::Unchanged };
-            } };
+                return Expectation{ .quiet = true };
+            }
+            canvas.movePaint(pos, shift);
+            const bool erases = canvas.isEraserMode();
+            const bool drags = !erases && canvas.drawMode() >= MyPainter::FreehandMode
+                && canvas.drawMode() <= MyPainter::ArrowMode;
+            const bool first =
+                std::exchange(stage.gestureBegun, stage.gestureBegun && !erases && !drags);
+            const int reach = geometry::saturated(2LL * canvas.penSize());
+            const bool leavesMark = erases && !stage.topmostAt(pos, reach).isEmpty();
+            return Expectation{ .repaint = Expectation::Always,
+                .board = erases      ? Expectation::Reduced
+                    : drags && first ? Expectation::Appended
+                                     : Expectation::Unchanged,
+                .problem = leavesMark ? QStringLiteral("a mark survives the eraser") : QString() };
+        } };
 }
 
 Call CallGenerator::release()
@@ -311,7 +336,10 @@ Call CallGenerator::deleteElement()
                 const bool removed = stage.canvas.deleteElement(pos, tolerance);
                 if (removed != removes)
                     ids.append(QStringLiteral("the answer is wrong"));
-                return Expectation{ .repaint = always(removes), .ids = ids, .quiet = !removes };
+                Expectation expected{ .repaint = always(removes), .ids = ids, .quiet = !removes };
+                if (removes)
+                    expected.records = { HistoryEntry::Delete, true };
+                return expected;
             } };
 }
 
@@ -343,6 +371,7 @@ Call CallGenerator::clear()
                 stage.lastNumber = 0;
                 stage.selectedId.clear();
                 stage.gestureBegun = true;
+                stage.inBatch = false;
                 stage.canvas.clear();
                 return Expectation{ .repaint = always(stage.hasSize()),
                     .ids = QStringList(),
@@ -393,8 +422,19 @@ Call CallGenerator::selectById()
 Call CallGenerator::translate()
 {
     const QPoint offset = oneIn(20) ? position() : QPoint(within(-9, 9), within(-9, 9));
-    return transform(say("translateSelectedElement(%1)", say(offset)), true,
+    Call call = transform(say("translateSelectedElement(%1)", say(offset)), true,
         [=](MyPainter &canvas) { canvas.translateSelectedElement(offset.x(), offset.y()); });
+    const auto play = call.play;
+    call.play = [=](Stage &stage) {
+        const QRectF before = stage.canvas.getSelectedElementBoundingRect();
+        Expectation expected = play(stage);
+        const QRectF after = stage.canvas.getSelectedElementBoundingRect();
+        if (isNear(before) && isNear(after) && after != before.translated(offset)
+            && stage.canvas.hasSelectedElement())
+            expected.problem = QStringLiteral("the selection moved elsewhere");
+        return expected;
+    };
+    return call;
 }
 
 Call CallGenerator::scale()
@@ -406,10 +446,11 @@ Call CallGenerator::scale()
     const double x = factor();
     const double y = factor();
     if (oneIn(2)) {
-        return transform(say("scaleSelectedElement(%1)", say(x)), x > 0,
+        return transform(say("scaleSelectedElement(%1)", say(x)), std::isfinite(x) && x > 0,
             [=](MyPainter &canvas) { canvas.scaleSelectedElement(x); });
     }
-    return transform(say("scaleSelectedElement(%1, %2)", say(x), say(y)), x > 0 && y > 0,
+    const bool valid = std::isfinite(x) && std::isfinite(y) && x > 0 && y > 0;
+    return transform(say("scaleSelectedElement(%1, %2)", say(x), say(y)), valid,
         [=](MyPainter &canvas) { canvas.scaleSelectedElement(x, y); });
 }
 
@@ -424,11 +465,14 @@ Call CallGenerator::batch()
 {
     if (oneIn(2)) {
         return { QStringLiteral("beginTransformBatch()"), [](Stage &stage) {
+                    stage.inBatch |= stage.canvas.hasSelectedElement();
                     stage.canvas.beginTransformBatch();
                     return Expectation{};
                 } };
     }
     return { QStringLiteral("endTransformBatch()"), [](Stage &stage) {
+                if (stage.canvas.hasSelectedElement())
+                    stage.inBatch = false;
                 stage.canvas.endTransformBatch();
                 return Expectation{};
             } };
@@ -462,10 +506,13 @@ Call CallGenerator::stepEffects()
                 const bool ran = fireTimers(stage.canvas, fades) && count > 0;
                 for (int i = 1; i < ticks; ++i)
                     fireTimers(stage.canvas, fades);
+                const bool stays = fades && ran && ticks >= FadeEffect::kSteps
+                    && stage.canvas.document().elements.size() == count;
                 // Breathing lets go of a lone mark, with or without touching it.
                 return Expectation{ .repaint =
                                         !fades && count == 1 ? Expectation::Perhaps : always(ran),
-                    .board = fades ? Expectation::Reduced : Expectation::Unchanged };
+                    .board = fades ? Expectation::Reduced : Expectation::Unchanged,
+                    .problem = stays ? QStringLiteral("a faded mark stays") : QString() };
             } };
 }
 

@@ -2,7 +2,6 @@
 
 #include "elements/cloneelement.h"
 #include "elements/geometry.h"
-#include "elements/numberedcircleelement.h"
 #include "tests/canvas/common/logrecorder.h"
 #include "tests/canvas/common/referencepainter.h"
 #include "tests/canvas/random/historyoracle.h"
@@ -11,6 +10,7 @@
 #include <QMetaProperty>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace
@@ -66,6 +66,7 @@ struct Stage::Before {
     QStringList ids;
     QSet<QString> known;
     QVariantList properties;
+    std::size_t undoSize;
 };
 
 Stage::Stage()
@@ -75,13 +76,14 @@ Stage::Stage()
 
 QString Stage::play(const Call &call)
 {
-    const Before before{ idsOf(canvas.document()), knownIds(), properties() };
+    const Before before{ idsOf(canvas.document()), knownIds(), properties(),
+        canvas.document().history.undoEntries().size() };
     const Expectation expected = call.play(*this);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    for (const QString &problem :
-        { boardProblem(expected, before), ownerProblem(), lossProblem(expected, before),
-            selectionProblem(), numberProblem(), signalProblem(expected, before),
-            pictureProblem(expected, call.showsFrame), LogRecorder::take().join(u'\n') }) {
+    for (const QString &problem : { expected.problem, boardProblem(expected, before),
+             ownerProblem(), lossProblem(expected, before), selectionProblem(), numberProblem(),
+             recordProblem(expected, before), signalProblem(expected, before),
+             pictureProblem(expected, call.showsFrame), LogRecorder::take().join(u'\n') }) {
         if (!problem.isEmpty())
             return problem;
     }
@@ -239,11 +241,23 @@ QString Stage::signalProblem(const Expectation &expected, const Before &before)
         if (now.at(i) != before.properties.at(i) && !emitted.contains(name))
             return QStringLiteral("no ") + name;
     }
-    const History &history = canvas.document().history;
-    return canvas.canUndo() == !history.undoEntries().empty()
-            && canvas.canRedo() == !history.redoEntries().empty()
-        ? QString()
-        : QStringLiteral("canUndo or canRedo is wrong");
+    return {};
+}
+
+QString Stage::recordProblem(const Expectation &expected, const Before &before) const
+{
+    if (!expected.records)
+        return {};
+    const auto &undo = canvas.document().history.undoEntries();
+    const std::size_t size = before.undoSize + 1;
+    const std::size_t most = History::kTrimmedSize;
+    if (undo.size() != (expected.records->trims ? std::min(size, most) : size))
+        return QStringLiteral("%1 changes are recorded, after %2")
+            .arg(undo.size())
+            .arg(before.undoSize);
+    if (undo.back().kind != expected.records->kind)
+        return QStringLiteral("another kind of change was recorded");
+    return canvas.canRedo() ? QStringLiteral("undone changes outlive a new one") : QString();
 }
 
 QString Stage::pictureProblem(const Expectation &expectation, bool showsFrame)

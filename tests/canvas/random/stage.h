@@ -22,6 +22,12 @@ struct Expectation {
 
     enum Loss { Nothing, UndoneChanges, Everything };
 
+    /// A change that the call records; doing changes over again is then over.
+    struct Record {
+        HistoryEntry::Kind kind;
+        bool trims = false; ///< the oldest entries go beyond a fixed number
+    };
+
     enum Repaint { Never, Perhaps, Always };
 
     Repaint repaint = Never; ///< whether a picture kept over a resize is brought up to date
@@ -29,6 +35,9 @@ struct Expectation {
     std::optional<QStringList> ids = {}; ///< in place of `board`: exactly these elements, in order
     std::optional<QRect> topBounds = {}; ///< of the topmost element
     bool quiet = false; ///< emits nothing
+    std::optional<Record> records = {};
+    /// What else is wrong after the call.
+    QString problem = {};
     Loss loss = UndoneChanges; ///< what may be gone for good
 };
 
@@ -61,6 +70,7 @@ public:
 
     MyPainter canvas;
     int lastNumber = 0;
+    bool inBatch = false; ///< transforms are recorded when it ends
     bool gestureBegun = false; ///< the next handled move starts a mark or a group of erasures
     QString selectedId;
 
@@ -74,6 +84,7 @@ private:
     [[nodiscard]] QString lossProblem(const Expectation &expected, const Before &before) const;
     [[nodiscard]] QString selectionProblem() const;
     [[nodiscard]] QString numberProblem() const;
+    [[nodiscard]] QString recordProblem(const Expectation &expected, const Before &before) const;
     [[nodiscard]] QString signalProblem(const Expectation &expected, const Before &before);
     [[nodiscard]] QString pictureProblem(const Expectation &expected, bool showsFrame);
 

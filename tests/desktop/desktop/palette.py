@@ -24,7 +24,7 @@ FLYOUTS = {
 
 
 def _px(units):
-    return round(units * SCALE)
+    return int(units * SCALE + 0.5)  # halves go up, unlike with Python's own rounding
 
 
 class Palette:
@@ -106,7 +106,7 @@ class Palette:
 
     def _is_flyout(self, rect, rows=None):
         counts = [rows] if rows else {len(names) for names in FLYOUTS.values()}
-        heights = [round(count * ROW_PITCH * SCALE + 20 * SCALE) * self._dpr for count in counts]
+        heights = [_px(count * ROW_PITCH + 20) * self._dpr for count in counts]
         return rect.width <= 34 * self._dpr and any(abs(rect.height - h) < 2 for h in heights)
 
     def _only(self, judge):

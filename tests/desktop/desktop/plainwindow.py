@@ -60,6 +60,10 @@ class PlainWindow:
         self._collect()
         return list(self._keys)
 
+    def move(self, x, y):
+        self._handle.configure(x=x, y=y)
+        self._display.sync()
+
     def close(self):
         self._display.close()
 
