@@ -16,6 +16,8 @@ Window {
     readonly property int gap: 8
 
     function showFor(target, pointerY) {
+        if (palette.dragging)
+            return; // the pointer only left the handle because the window follows it
         button = target;
         const reach = (flyouts.isOpen ? flyouts.popupWidth : 0) + gap;
         const right = palette.x + palette.width + reach;
