@@ -2,6 +2,7 @@
 
 import os
 import signal
+import subprocess
 
 import desktop
 from PIL import Image
@@ -300,6 +301,14 @@ class InputMethodTest(OverlayTestCase):
                 env=self.desktop.env(), stdout=log, stderr=log)
         self.wait_for(lambda: "Loaded addon pinyin" in self.desktop.log(), "the input method")
 
+    def input_method_listens(self):
+        """Whether the input method has been told of a focused editor: only then it gets keys."""
+        answer = subprocess.run(
+            ["dbus-send", "--session", "--print-reply", "--dest=org.fcitx.Fcitx5", "/controller",
+             "org.fcitx.Fcitx.Controller1.DebugInfo"],
+            env=self.desktop.env(), stdout=subprocess.PIPE, text=True, check=True).stdout
+        return "focus:1" in answer
+
     def candidates(self):
         """The input method's own window with the choices, if it is open."""
         return [window for window in self.desktop.windows.all()
@@ -310,8 +319,10 @@ class InputMethodTest(OverlayTestCase):
         self.start_input_method()
         self.start_drawing(env={"QT_IM_MODULE": "fcitx"})
         self.choose("Ctrl+T")
+        self.assertFalse(self.input_method_listens())
         self.desktop.pointer.click(300, 300)
         self.wait_for_red(300, 350, "the first editor's red frame")
+        self.wait_for(self.input_method_listens, "the input method to listen")
         self.desktop.keyboard.type("nihao")
         choices = self.wait_for(self.candidates, "the choices")[-1].geometry
         self.assertLess(abs(choices.x - 305), 60)
