@@ -153,7 +153,11 @@ class DrawingTest(OverlayTestCase):
         self.desktop.pointer.release()
         self.wait_for(lambda: not self.overlay.takes_pointer, "the pointer to be let through")
         self.desktop.pointer.click(*plain.window.at(200, 200))
-        self.wait_for(lambda: plain.clicks == [(200, 200, 1)], "only the new click to arrive")
+
+        def arrived():
+            self.assertEqual(plain.clicks, [(200, 200, 1)])
+            return True
+        self.wait_for(arrived, "only the new click to arrive")
 
     def test_a_mark_is_selected_moved_scaled_and_deleted(self):
         self.start_drawing()
