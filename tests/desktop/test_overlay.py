@@ -2,6 +2,7 @@
 
 import os
 import signal
+import subprocess
 
 import desktop
 from PIL import Image
@@ -152,7 +153,11 @@ class DrawingTest(OverlayTestCase):
         self.desktop.pointer.release()
         self.wait_for(lambda: not self.overlay.takes_pointer, "the pointer to be let through")
         self.desktop.pointer.click(*plain.window.at(200, 200))
-        self.wait_for(lambda: plain.clicks == [(200, 200, 1)], "only the new click to arrive")
+
+        def arrived():
+            self.assertEqual(plain.clicks, [(200, 200, 1)])
+            return True
+        self.wait_for(arrived, "only the new click to arrive")
 
     def test_a_mark_is_selected_moved_scaled_and_deleted(self):
         self.start_drawing()
@@ -300,6 +305,14 @@ class InputMethodTest(OverlayTestCase):
                 env=self.desktop.env(), stdout=log, stderr=log)
         self.wait_for(lambda: "Loaded addon pinyin" in self.desktop.log(), "the input method")
 
+    def input_method_listens(self):
+        """Whether the input method has been told of a focused editor: only then it gets keys."""
+        answer = subprocess.run(
+            ["dbus-send", "--session", "--print-reply", "--dest=org.fcitx.Fcitx5", "/controller",
+             "org.fcitx.Fcitx.Controller1.DebugInfo"],
+            env=self.desktop.env(), stdout=subprocess.PIPE, text=True, check=True).stdout
+        return "focus:1" in answer
+
     def candidates(self):
         """The input method's own window with the choices, if it is open."""
         return [window for window in self.desktop.windows.all()
@@ -312,6 +325,7 @@ class InputMethodTest(OverlayTestCase):
         self.choose("Ctrl+T")
         self.desktop.pointer.click(300, 300)
         self.wait_for_red(300, 350, "the first editor's red frame")
+        self.wait_for(self.input_method_listens, "the input method to listen")
         self.desktop.keyboard.type("nihao")
         choices = self.wait_for(self.candidates, "the choices")[-1].geometry
         self.assertLess(abs(choices.x - 305), 60)
