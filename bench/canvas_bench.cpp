@@ -28,7 +28,7 @@ QPoint spiral(int sample)
 /// The time of one move of a stroke that already has so many points.
 void moveAfter(benchmark::State &state, int pointsBefore)
 {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         const auto canvas = boards::withStrokes(0);
         canvas->beginPaint(spiral(0));
@@ -60,7 +60,7 @@ void movesOn(benchmark::State &state, int marks)
 {
     const auto canvas = boards::withStrokes(marks);
     const QList<QPoint> points = boards::strokePoints(424242, kStretch);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         canvas->beginPaint(points.first());
         for (const QPoint &point : points) {
             canvas->movePaint(point, false);
@@ -92,7 +92,7 @@ void moveOn1000(benchmark::State &state)
 void fullRepaint100(benchmark::State &state)
 {
     const auto canvas = boards::withStrokes(100);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (int i = 0; i < kStretch; ++i) {
             canvas->forceUpdateImage();
             boards::showFrame(*canvas);
@@ -109,7 +109,7 @@ void selectAt1000(benchmark::State &state)
 {
     const auto canvas = boards::withStrokes(1000);
     int i = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         i = (i + 71) % 1000;
         benchmark::DoNotOptimize(canvas->selectElementAt(middleOf(i) + QPoint(i % 40, i % 30)));
     }
@@ -120,7 +120,7 @@ void eraserStep1000(benchmark::State &state)
     const auto canvas = boards::withStrokes(1000);
     canvas->setIsEraserMode(true);
     int i = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         i = (i + 71) % 1000;
         canvas->beginPaint(middleOf(i));
@@ -140,7 +140,7 @@ void eraserStep1000(benchmark::State &state)
 void undo1000(benchmark::State &state)
 {
     const auto canvas = boards::withStrokes(1000);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         canvas->undo();
         boards::showFrame(*canvas);
         state.PauseTiming();
@@ -153,7 +153,7 @@ void undo1000(benchmark::State &state)
 void redo1000(benchmark::State &state)
 {
     const auto canvas = boards::withStrokes(1000);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         canvas->undo();
         boards::showFrame(*canvas);
@@ -167,7 +167,7 @@ void delete1000(benchmark::State &state)
 {
     const auto canvas = boards::withStrokes(1000);
     int i = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         i = (i + 71) % 1000;
         canvas->deleteElement(middleOf(i));
         boards::showFrame(*canvas);
@@ -192,7 +192,7 @@ void breathingTick1000(benchmark::State &state)
 {
     const auto canvas = boards::withStrokes(1000);
     canvas->repeatDraw(3000);
-    for (auto _ : state)
+    while (state.KeepRunning())
         tick(*canvas, false);
 }
 
@@ -200,7 +200,7 @@ void fadeTick1000(benchmark::State &state)
 {
     const auto canvas = boards::withStrokes(1000);
     int done = FadeEffect::kSteps;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         if (done >= FadeEffect::kSteps - 1) {
             state.PauseTiming();
             if (done == FadeEffect::kSteps - 1) {

@@ -96,14 +96,21 @@ void TestRenderer::partialRepaintsAreExact()
     renderer.setDevicePixelRatio(ratio);
     renderer.rebuild(kSize);
     for (int i = 0; i < 200; ++i) {
-        QRect area;
+        Damage damage;
+        int lowest = elements.size();
         if (elements.size() > 6) {
-            area = elements.at(3)->paintedRect();
-            static_cast<void>(elements.take(3));
+            lowest = 3;
+            damage.add(*elements.at(lowest));
+            static_cast<void>(elements.take(lowest));
+        } else if (lowest > 0 && random.bounded(3) > 0) {
+            DrawingElement &topmost = *elements.at(--lowest);
+            damage.add(topmost);
+            topmost.move(QPoint(random.bounded(-9, 10), random.bounded(-9, 10)));
+            damage.add(topmost);
         } else {
-            area = elements.append(randomMark(random))->paintedRect();
+            damage.add(*elements.append(randomMark(random)));
         }
-        renderer.contentChanged(area, 0, kSize);
+        renderer.contentChanged(damage, lowest, kSize);
         QCOMPARE(renderer.picture(), referencePicture(elements, kSize, ratio));
     }
 }
