@@ -64,6 +64,8 @@ Item {
             flyouts: root.flyouts
             img_src: root.palette.penIcon
             flyout: "pen"
+            actsOnClick: !root.palette.drawAble
+            onClickedLeft: root.palette.tools.takeUp(root.palette.tools.choosePen, root.palette.penIcon)
             toolTipText: root.toolNames.of(root.palette.penIcon)
             active: root.writing || (root.mode === 0 && !root.erasing)
 
@@ -79,6 +81,8 @@ Item {
             flyouts: root.flyouts
             img_src: root.palette.lineIcon
             flyout: "shape"
+            actsOnClick: !root.palette.drawAble
+            onClickedLeft: root.palette.tools.takeUp(root.palette.tools.chooseShape, root.palette.lineIcon)
             toolTipText: root.toolNames.of(root.palette.lineIcon)
             active: root.mode > 0 && !root.writing && !root.erasing
         }

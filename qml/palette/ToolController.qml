@@ -27,6 +27,14 @@ QtObject {
         canvas.penOpacity = 1.0;
     }
 
+    /// A tool is clicked while the pointer goes to the desktop: whoever picks it up wants to draw.
+    function takeUp(choose, picture) {
+        if (palette.drawAble)
+            return;
+        palette.overlayLink.toggle();
+        choose(0, picture);
+    }
+
     function choosePen(index, picture) {
         palette.raise();
         palette.penIcon = picture;

@@ -9,6 +9,18 @@ from PIL import Image, ImageChops
 WHITE, BLACK = (255, 255, 255), (0, 0, 0)
 
 
+class PickingUpTest(MarksTestCase):
+
+    def test_a_tool_clicked_while_the_pointer_goes_to_the_desktop_draws(self):
+        self.palette.pick_up("shape")
+        self.draw_and_see("line")
+        self.palette.click("clear")
+        self.expect_gone("line")
+        self.palette.stop_drawing()
+        self.palette.pick_up("pen")
+        self.draw_and_see("stroke")
+
+
 class ToolsTest(MarksTestCase):
 
     def setUp(self):

@@ -87,7 +87,11 @@ class Palette:
 
     def start_drawing(self):
         """Clicks the draw button and waits until the overlay takes the pointer."""
-        self.click("draw")
+        return self.pick_up("draw")
+
+    def pick_up(self, tool):
+        """Clicks a tool that starts to draw, and waits until the overlay takes the pointer."""
+        self.click(tool)
         return self._wait(lambda: self.overlay and self.overlay.takes_pointer and self.overlay,
                           "the overlay to take the pointer")
 
