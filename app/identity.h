@@ -8,7 +8,7 @@ inline constexpr char kApplicationName[] = "painter";
 inline constexpr char kVersion[] = "1.0.0";
 inline constexpr char kOrganization[] = "korvath";
 inline constexpr char kDisplayName[] = "Dravelin";
-inline constexpr char kRightsNotice[] = "Copyright © 2024 korvath. All rights reserved.";
+inline constexpr char kRightsNotice[] = "Copyright © 2024 The Dravelin authors. MIT licence.";
 
 inline constexpr char kIcon[] = ":/icon.ico";
 inline constexpr char kControlsStyle[] = "Material";
