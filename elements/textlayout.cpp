@@ -17,7 +17,8 @@ constexpr int kLargestPointSize = 10000;
 // The text engine counts in 26.6 fixed point and wraps around at 2^25 pixels. A run of this length
 // at this distance stays far below that, also when the painter magnifies.
 constexpr int kTextRangePx = 1 << 21;
-// What the text engine takes for a run grows with the square of the marks stacked on one letter.
+// What the text engine takes for a run grows with the square of the marks stacked on one letter:
+// in a long line, those that nobody could tell apart any more are left out.
 constexpr qsizetype kLongestRun = 4096;
 constexpr qsizetype kLongestCluster = 64;
 // Antialiasing and hinting go beyond the measured ink by a pixel or two, in large sizes by more.
@@ -114,12 +115,19 @@ QStringList TextLayout::runsOf(const QString &line) const
     QStringList runs;
     QTextBoundaryFinder boundaries(QTextBoundaryFinder::Grapheme, line);
     for (qsizetype from = 0; from < line.size();) {
+        boundaries.setPosition(from);
+        const qsizetype clusterEnd = boundaries.toNextBoundary();
+        if (clusterEnd > from + kLongestCluster) {
+            runs.append(line.mid(from, kLongestCluster));
+            from = clusterEnd;
+            continue;
+        }
         boundaries.setPosition(std::min(from + longest, line.size()));
         qsizetype to = boundaries.position();
         if (!boundaries.isAtBoundary())
-            to = boundaries.toNextBoundary();
-        if (to <= from || to > from + longest + kLongestCluster)
-            to = std::min(from + longest, line.size());
+            to = boundaries.toPreviousBoundary();
+        if (to <= from)
+            to = std::max(clusterEnd, from + 1);
         runs.append(line.mid(from, to - from));
         from = to;
     }
