@@ -101,6 +101,14 @@ void TestPaintedRect::texts()
                 compareWithInk(element, 8 + element.boundingRect().height(), magnification);
         }
     }
+    // What people select is what they see: stacked marks aside, no ink lies outside of the frame.
+    for (const char *text : { "jWAVf/", "\nj\n\nQg\n", "标注工具，重要！\n龘", "abc שלום fj 12" }) {
+        for (const int size : { 6, 11, 18, 33, 48 }) {
+            const TextElement element(QPoint(-600, -300), text, size, Qt::red, 5, 1.0);
+            const QRect ink = touched(samples::painted(element, kCanvas, kOrigin, 1.0));
+            QVERIFY2(element.boundingRect().contains(ink), text);
+        }
+    }
     QVERIFY(TextElement(QPoint(9, 9), QString(), 20, Qt::red, 5, 1.0).paintedRect().isEmpty());
 }
 
