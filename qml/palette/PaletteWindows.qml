@@ -57,8 +57,15 @@ Item {
         // Its first announcement came while it was made.
         palette.onHotKeyChanged();
         window.x = palette.x + (palette.rightMargin <= 350 ? -360 : 60);
+        window.coveredRight = Qt.binding(() => coveredBy(palette, window));
         window.raise();
         palette.raise();
+    }
+
+    /// How far the palette reaches into the window from the right.
+    function coveredBy(palette, window) {
+        const overlap = window.x + window.width - palette.x;
+        return overlap > 0 && palette.x > window.x + window.width / 2 ? overlap : 0;
     }
 
     function closeSettings() {

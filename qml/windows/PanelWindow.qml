@@ -12,6 +12,8 @@ Window {
     readonly property int stripHeight: 40
     property int contentMargin: 24
     property int closeMargin: 8
+    /// What another window covers of this one at its right edge stays free of content.
+    property int coveredRight: 0
 
     /// The user closes the window.
     signal dismissed()
@@ -48,7 +50,12 @@ Window {
 
         CloseButton {
             id: closeButton
-            anchors { right: parent.right; top: parent.top; margins: root.closeMargin }
+            anchors {
+                right: parent.right
+                top: parent.top
+                margins: root.closeMargin
+                rightMargin: root.closeMargin + root.coveredRight
+            }
             onClicked: root.dismissed()
         }
 
@@ -58,7 +65,7 @@ Window {
                 fill: parent
                 topMargin: root.stripHeight
                 leftMargin: root.contentMargin
-                rightMargin: root.contentMargin
+                rightMargin: root.contentMargin + root.coveredRight
                 bottomMargin: root.contentMargin
             }
         }

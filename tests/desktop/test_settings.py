@@ -8,11 +8,12 @@ import desktop
 from desktop.capturing import ACCENT, store_settings
 
 CONFLICT = (250, 85, 85)
-# Rows of the window, from its top; the folder's button and the pickers' boxes are at the right.
+# Rows of the window, from its top; the folder's button and the pickers' boxes are at the right, where
+# the palette leaves them free.
 FOLDER_Y, LANGUAGE_Y, FIRST_PICKER_Y, PICKER_PITCH = 57, 104, 155, 55
 PICKERS = ("screenKey", "penKey", "closeDrawKey", "eraseKey", "textKey", "clearKey", "lineKey",
            "circleKey")
-BOX_X, BROWSE_X, TEXT_X, SAVE = 310, 350, 200, (310, 403)
+BOX_X, BROWSE_X, TEXT_X, SAVE = 290, 310, 200, (310, 403)
 CHOSEN_LANGUAGE, BLUE = (84, 205), (0, 102, 180)
 
 
@@ -142,7 +143,7 @@ class SettingsTest(desktop.DesktopTestCase):
         self.wait_for_pixel(*self.window.at(*CHOSEN_LANGUAGE),
                             lambda colour: desktop.near(colour, BLUE), "the list to open")
         self.desktop.keyboard.tap("Home", "Return")  # British English
-        apply = 350, LANGUAGE_Y - 10
+        apply = BROWSE_X, LANGUAGE_Y - 10
         self.wait_for_pixel(*self.window.at(*apply), lambda colour: desktop.near(colour, ACCENT),
                             "the button that applies it")
         self.click(*apply)
