@@ -215,6 +215,8 @@ void TestRecorder::tellsOfAFullDisk()
     // A disk of its own that a few pictures fill; it goes with the recorder.
     const QStringList smallDisk{ "unshare", "--map-root-user", "--mount", "sh", "-c",
         "mount -t tmpfs -o size=16k none \"$0\" && exec \"$@\"", m_folder->path() };
+    if (QProcess::execute(smallDisk.first(), smallDisk.mid(1) << "true") != 0)
+        QSKIP("this machine lets nobody mount a disk");
     Recorder recorder(arguments("--no-mic"), environment(), smallDisk);
     QVERIFY(recorder.process.waitForFinished());
     const QByteArray notes = recorder.notes();
