@@ -94,7 +94,6 @@ void MyPainter::setDrawMode(int mode)
     const int left = m_pen.drawMode();
     if (mode == left)
         return;
-    m_pen.abandonGesture();
     if (m_pen.isErasing()) {
         m_pen.setErasing(false);
         emit eraserModeChanged();
