@@ -2,6 +2,7 @@
 
 #include "canvas/fadeeffect.h"
 #include "canvas/logtexts.h"
+#include "canvas/picturenode.h"
 #include "elements/geometry.h"
 
 #include <QCoreApplication>
@@ -316,6 +317,16 @@ void MyPainter::itemChange(ItemChange change, const ItemChangeData &data)
         return;
     if (m_renderer.setDevicePixelRatio(pixelRatio()))
         forceUpdateImage();
+}
+
+QSGNode *MyPainter::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
+{
+    auto *pictureNode = static_cast<PictureNode *>(node);
+    if (!pictureNode)
+        pictureNode = new PictureNode;
+    const QImage &picture = m_renderer.picture();
+    pictureNode->show(picture, m_renderer.revisions(), *window());
+    return pictureNode;
 }
 
 void MyPainter::undoStackChanged()

@@ -73,7 +73,13 @@ public:
     [[nodiscard]] int fadeOutTime() const { return m_fadeOutTimeMs; }
     void setFadeOutTime(int milliseconds);
 
+    /// For whoever wants all of the picture; on the screen the item shows it in pieces.
     void paint(QPainter *painter) override;
+    /// Not by itself: there is no texture of the whole picture.
+    [[nodiscard]] bool isTextureProvider() const override
+    {
+        return QQuickItem::isTextureProvider();
+    }
 
     /// For checks of what the canvas holds; both stay the canvas's own.
     [[nodiscard]] const CanvasDocument &document() const { return m_document; }
@@ -134,6 +140,7 @@ public:
 protected:
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
+    QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;
 
 private:
     void undoStackChanged() override;

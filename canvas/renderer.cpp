@@ -62,6 +62,7 @@ void Renderer::resize(const QSize &size)
     const QImage blank = emptyPicture(size);
     const QImage &old = picture();
     m_picture = old.isNull() || blank.isNull() ? blank : old.copy(blank.rect());
+    m_revisions.reset(m_picture.size());
     m_size = size;
     m_staleAfterResize = true;
 }
@@ -99,6 +100,7 @@ QImage Renderer::emptyPicture(const QSize &size) const
 void Renderer::repaintAll()
 {
     m_picture = emptyPicture(m_size);
+    m_revisions.reset(m_picture.size());
     forgetBeneath();
     m_paintedCount = m_elements.size();
     if (m_picture.isNull())
@@ -132,6 +134,7 @@ void Renderer::repaintArea(const QRect &area)
         devicePixels(area, m_picture.devicePixelRatio()).intersected(m_picture.rect());
     if (pixels.isEmpty())
         return;
+    m_revisions.touch(pixels);
     if (m_beneathCount >= 0)
         repaintTopmost(pixels);
     else

@@ -2,6 +2,7 @@
 
 #include "canvas/damage.h"
 #include "canvas/savedtiles.h"
+#include "canvas/tilerevisions.h"
 
 #include <QImage>
 #include <QRect>
@@ -44,6 +45,8 @@ public:
 
     /// Null until the first change of content or resize.
     [[nodiscard]] const QImage &picture();
+    /// Where the last `picture()` has been painted, for whoever shows it.
+    [[nodiscard]] const TileRevisions &revisions() const { return m_revisions; }
 
     /// Paints every element in list order.
     static void paintElements(QPainter &painter, const ElementList &elements);
@@ -66,6 +69,7 @@ private:
 
     const ElementList &m_elements;
     QImage m_picture;
+    TileRevisions m_revisions;
     qreal m_ratio = 1.0;
     QSize m_size; ///< of the canvas at the last change of content
     Damage m_damage;
