@@ -5,11 +5,11 @@ import argparse
 import os
 import sys
 
-from rows import REPOSITORY, latency
+from rows import REPOSITORY, idle, latency, memory, samples, start
 from rows.row import print_table
 from rows.stages import Stages
 
-KINDS = {"latency": latency}
+KINDS = {"latency": latency, "samples": samples, "start": start, "memory": memory, "idle": idle}
 
 
 def arguments():

@@ -70,6 +70,5 @@ def _expect(stage, marks, keys, told):
 def _draw(pointer, points):
     pointer.move(*points[0])
     pointer.press()
-    for point in points[1:]:
-        pointer.move(*point)
+    pointer.sweep(points[1:])
     pointer.release()
