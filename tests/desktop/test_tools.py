@@ -119,28 +119,9 @@ class ToolsTest(MarksTestCase):
         self.expect(CENTRE, PAPER, "the picture to go")
 
         # The green one of the dialog's colours dyes the next stroke.
-        before = self.desktop.screen.shot((0, 0, 1200, 800))
-        self.palette.click("colour")
-        self.wait_for(lambda: desktop.changed_box(before, self.desktop.screen.shot((0, 0, 1200, 800))),
-                      "the colour dialog")
-        green = self.wait_for(self.green_swatch, "the green swatch")
-        self.desktop.pointer.click(*green)
-        self.desktop.keyboard.tap("Escape")
-        self.wait_for(lambda: not self.green_swatch(), "the dialog to close")
+        self.palette.dye(lambda seen: seen[1] > max(seen[0], seen[2]) + 60)
         self.draw()
         self.wait_for_pixel(*CENTRE, lambda seen: seen[1] > seen[0] + 60, "a green stroke")
-
-    def green_swatch(self):
-        """The middle of a patch of one green in the colour dialog, right of the document."""
-        shot = self.desktop.screen.shot((900, 0, 330, 800))
-        for y in range(0, 800, 4):
-            for x in range(0, 320, 4):
-                colour = shot.getpixel((x, y))
-                patch = (shot.getpixel((x + dx, y + dy)) for dx, dy in ((8, 0), (0, 8), (8, 8))
-                         if y + dy < 800)
-                if colour[1] > max(colour[0], colour[2]) + 60 and all(p == colour for p in patch):
-                    return 900 + x + 4, y + 4
-        return None
 
     def test_marks_fade_away_oldest_first(self):
         self.draw([(300, 300), (500, 300)])

@@ -121,6 +121,12 @@ class Pointer:
         xtest.fake_input(self._display, X.MotionNotify, x=int(x), y=int(y))
         self._display.sync()
 
+    def sweep(self, points):
+        """Moves along the points as quickly as the server takes them."""
+        for x, y in points:
+            xtest.fake_input(self._display, X.MotionNotify, x=int(x), y=int(y))
+        self._display.sync()
+
     def press(self, button=LEFT):
         xtest.fake_input(self._display, X.ButtonPress, button)
         self._display.sync()

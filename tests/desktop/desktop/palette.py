@@ -6,6 +6,8 @@ from .waiting import wait_for
 SCALE = 0.65
 WIDTH, HANDLE_HEIGHT, HANDLE_GAP, BUTTON_HEIGHT, BUTTON_GAP = 50, 48, 10, 40, 4
 ROW_PITCH, FIRST_ROW = 38, 10
+# Pixels beside the palette in which the colour dialog opens.
+DIALOG_REACH = 340
 
 TOOLS = ("collapse", "draw", "pen", "shape", "eraser", "history", "clear", "board", "screenshot",
          "record", "colour", "thickness", "fade", "breathing", "menu")
@@ -85,6 +87,15 @@ class Palette:
         self._desktop.pointer.click(*point)
         self._wait(lambda: flyout not in self._program.windows(), f"the {tool} flyout to close")
 
+    def dye(self, wanted):
+        """Picks a colour that `wanted` accepts in the colour dialog, and returns it."""
+        self.click("colour")
+        x, y, colour = self._wait(lambda: self._swatch(wanted), "the colour dialog to open")
+        self._desktop.pointer.click(x, y)
+        self._desktop.keyboard.tap("Escape")
+        self._wait(lambda: not self._swatch(wanted), "the colour dialog to close")
+        return colour
+
     def start_drawing(self):
         """Clicks the draw button and waits until the overlay takes the pointer."""
         return self.pick_up("draw")
@@ -103,6 +114,19 @@ class Palette:
 
     def _at(self, x, y):
         return self.window.at(x * self._dpr, y * self._dpr)
+
+    def _swatch(self, wanted):
+        """The middle of a patch of one wanted colour beside the palette, with the colour."""
+        height = self._desktop.size[1]
+        left = self.window.geometry.x - DIALOG_REACH
+        shot = self._desktop.screen.shot((left, 0, DIALOG_REACH, height))
+        for y in range(0, height - 8, 4):
+            for x in range(0, DIALOG_REACH - 8, 4):
+                colour = shot.getpixel((x, y))
+                if wanted(colour) and all(shot.getpixel((x + dx, y + dy)) == colour
+                                          for dx, dy in ((8, 0), (0, 8), (8, 8))):
+                    return left + x + 4, y + 4, colour
+        return None
 
     def _expect_uncovered(self, window, point):
         self._wait(lambda: self._desktop.windows.at(*point) == window,

@@ -92,11 +92,14 @@ class Guard:
     pipe closes and the watcher ends the process groups it was told about."""
 
     started = []
+    standing = []
 
     def __init__(self, folder):
         self._watcher = subprocess.Popen(
             [sys.executable, "-I", GUARD_SCRIPT, folder],
             stdin=subprocess.PIPE, start_new_session=True, text=True)
+        self._own = [self._watcher.pid]
+        Guard.standing.append(self)
 
     @property
     def pid(self):
@@ -107,15 +110,19 @@ class Guard:
         popen = subprocess.Popen(command, stdin=subprocess.DEVNULL, start_new_session=True,
                                  **options)
         Guard.started.append(popen)
+        self._own.append(popen.pid)
         self._watcher.stdin.write(f"{popen.pid}\n")
         self._watcher.stdin.flush()
         return popen
 
     def close(self):
-        """Ends all that was started and is still alive; the watcher then removes the folder."""
-        end([pid for pid in descendants(os.getpid()) if pid != self._watcher.pid])
-        for popen in Guard.started:
-            popen.poll()
-        Guard.started.clear()
+        """Ends all that is still alive, but for what desktops beside this one have started; the
+        watcher then removes the folder."""
+        Guard.standing.remove(self)
+        spared = {self._watcher.pid}
+        for pid in [pid for guard in Guard.standing for pid in guard._own]:
+            spared.update([pid, *descendants(pid)])
+        end([pid for pid in descendants(os.getpid()) if pid not in spared])
+        Guard.started[:] = [popen for popen in Guard.started if popen.poll() is None]
         self._watcher.stdin.close()
         self._watcher.wait()

@@ -1,5 +1,6 @@
 """A whole desktop of its own: nothing of the real one is seen, nothing is left behind."""
 
+import contextlib
 import os
 import tempfile
 
@@ -114,6 +115,15 @@ class Desktop:
     def stop_companion(self, what):
         popen = self._companions.pop(what)
         end([popen.pid])
+
+    @contextlib.contextmanager
+    def stillness(self):
+        """While it lasts nothing happens on the desktop but what its programs do by themselves."""
+        self._pulse.stop()
+        try:
+            yield
+        finally:
+            self._pulse = Pulse(self.name)
 
     def set_monitors(self, rectangles):
         """Divides the desktop into monitors; plugging and unplugging is calling it again."""

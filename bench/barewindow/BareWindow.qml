@@ -1,0 +1,14 @@
+import QtQuick
+import QtQuick.Controls
+
+ApplicationWindow {
+    width: 240
+    height: 320
+    visible: true
+    title: "Bare window"
+
+    Button {
+        anchors.centerIn: parent
+        text: "Button"
+    }
+}

@@ -1,0 +1,44 @@
+#!/usr/bin/python3
+"""Measures the real program on desktops of its own and prints all goals in one table."""
+
+import argparse
+import os
+import sys
+
+from rows import REPOSITORY, idle, latency, memory, samples, start
+from rows.row import print_table
+from rows.stages import Stages
+
+KINDS = {"latency": latency, "samples": samples, "start": start, "memory": memory, "idle": idle}
+
+
+def arguments():
+    parser = argparse.ArgumentParser(description=__doc__)
+    tools = os.path.join(REPOSITORY, "build", "release", "bin")
+    parser.add_argument("--program", default=os.path.join(tools, "dravelin"),
+                        help="the program to measure (default: the release build's)")
+    parser.add_argument("--tools", default=tools, help="folder of the benchmark's own programs")
+    parser.add_argument("--only", default=",".join(KINDS), type=lambda text: text.split(","),
+                        help="kinds of rows, such as latency,idle (default: all)")
+    options = parser.parse_args()
+    unknown = set(options.only) - set(KINDS)
+    if unknown:
+        parser.error(f"no such rows: {', '.join(unknown)}; there are {', '.join(KINDS)}")
+    return options
+
+
+def main():
+    options = arguments()
+    table, notes = [], []
+    with Stages(options.program, options.tools) as stages:
+        for kind in options.only:
+            table += KINDS[kind].rows(stages, notes)
+    print_table(table, sys.stdout)
+    print()
+    for note in notes:
+        print(note)
+    sys.exit(not all(row.met for row in table))
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,45 @@
+"""Proportional memory, beside a bare window."""
+
+import statistics
+
+import desktop
+
+from .bareprograms import DEFAULT_BACKEND, SOFTWARE_BACKEND, start_bare_window, start_palette
+from .processinfo import proportional_memory_mb, wait_until_quiet
+from .row import Row
+from .stages import FULL_HD
+
+ROUNDS = 3
+
+
+def rows(stages, notes):
+    place = stages.desktop(FULL_HD)
+    found = {"bare window": [], "bare window on OpenGL": [], "palette alone": [],
+             "palette and overlay": []}
+    for _ in range(ROUNDS):
+        # One at a time: two would share the pages of their libraries.
+        for name, backend in (("bare window", SOFTWARE_BACKEND),
+                              ("bare window on OpenGL", DEFAULT_BACKEND)):
+            program, window = start_bare_window(place, stages, backend)
+            window()
+            found[name].append(settled_memory(program))
+            program.stop()
+        program, window = start_palette(place, stages)
+        window()
+        found["palette alone"].append(settled_memory(program))
+        desktop.Palette(place, program).start_drawing()
+        found["palette and overlay"].append(settled_memory(program))
+        program.stop()
+    medians = {name: statistics.median(mb) for name, mb in found.items()}
+    for name, mb in found.items():
+        notes.append(f"memory of {name}: median {medians[name]:.1f} MB, "
+                     f"{min(mb):.1f} to {max(mb):.1f} MB")
+    yield Row("proportional memory, palette alone, against a bare window", 1.5,
+              medians["palette alone"] / medians["bare window"], "x")
+    yield Row("... more with the overlay at 1920x1080", 50,
+              medians["palette and overlay"] - medians["palette alone"], "MB")
+
+
+def settled_memory(program):
+    wait_until_quiet(program.pid, window_s=1.0)
+    return proportional_memory_mb(program.pid)
