@@ -7,15 +7,15 @@
 #include <string>
 
 /// Keeps the processor time of each benchmark, which other programs on the machine do not lengthen,
-/// and prints, after all of them, what was wanted beside it.
+/// and prints, after all of them, what was wanted beside it, for desktop_bench.py to read.
 class GoalTable : public benchmark::ConsoleReporter
 {
 public:
     void ReportRuns(const std::vector<Run> &runs) override;
 
-    /// Prints one line for each goal, and answers whether all of them were met. A benchmark that
-    /// did not run leaves its goals out.
-    bool print(std::ostream &out) const;
+    /// Prints one line for each goal: what, direction (">=" or "<="), bound, measured and unit,
+    /// with tabs between them. A benchmark that did not run leaves its goals out.
+    void print(std::ostream &out) const;
 
 private:
     [[nodiscard]] double microseconds(const std::string &name) const;

@@ -9,6 +9,7 @@ ApplicationWindow {
 
     Button {
         anchors.centerIn: parent
+        flat: true // the software scene graph has no shadows
         text: "Button"
     }
 }

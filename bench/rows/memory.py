@@ -1,5 +1,6 @@
 """Proportional memory, beside a bare window."""
 
+import os
 import statistics
 
 import desktop
@@ -16,6 +17,10 @@ def rows(stages, notes):
     place = stages.desktop(FULL_HD)
     found = {"bare window": [], "bare window on OpenGL": [], "palette alone": [],
              "palette and overlay": []}
+    others = qt_programs()
+    if others:
+        notes.append(f"memory: {others} other Qt programs run here and share their libraries' pages; "
+                     "alone, every figure would be higher")
     for _ in range(ROUNDS):
         # One at a time: two would share the pages of their libraries.
         for name, backend in (("bare window", SOFTWARE_BACKEND),
@@ -43,3 +48,15 @@ def rows(stages, notes):
 def settled_memory(program):
     wait_until_quiet(program.pid, window_s=1.0)
     return proportional_memory_mb(program.pid)
+
+
+def qt_programs():
+    """How many programs on this machine have loaded Qt."""
+    count = 0
+    for pid in filter(str.isdigit, os.listdir("/proc")):
+        try:
+            with open(f"/proc/{pid}/maps", encoding="utf-8", errors="replace") as maps:
+                count += "libQt6Core" in maps.read()
+        except OSError:
+            continue  # ended, or not ours to look into
+    return count
