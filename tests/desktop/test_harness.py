@@ -52,6 +52,16 @@ class HarnessTest(desktop.DesktopTestCase):
             self.desktop.set_monitors(layout)
             self.assertEqual(list(monitors.read_monitors(self.desktop.name).values()), layout)
 
+    def test_a_desktop_beside_this_one_ends_alone(self):
+        own = {popen.pid for popen in self.desktop.guard.started}
+        with desktop.Desktop() as beside:
+            its = {popen.pid for popen in beside.guard.started} - own
+            self.assertGreaterEqual(len(its), 5)
+        self.assertEqual(its & set(parents()), set())
+        self.assertEqual(own - set(parents()), set())
+        self.assertFalse(os.path.exists(beside.folder))
+        self.assertTrue(os.path.exists(self.desktop.folder))
+
     def test_nothing_survives_a_killed_runner(self):
         here = os.path.dirname(os.path.abspath(__file__))
         runner = subprocess.Popen([sys.executable, "-B", "-c", KILLED_RUNNER, here],
