@@ -37,6 +37,7 @@ def main():
         for kind in (kind for kind in KINDS if kind in options.only):
             print(f"measuring: {kind}", file=sys.stderr)
             table += KINDS[kind].rows(stages, notes)
+    about.append(machine.load("after"))
     print_table(table, sys.stdout)
     for heading, lines in (("Details", notes), ("Measured on", about)):
         print(f"\n{heading}", *lines, sep="\n  ")
