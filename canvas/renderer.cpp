@@ -1,5 +1,6 @@
 #include "canvas/renderer.h"
 
+#include "canvas/devicepixels.h"
 #include "canvas/elementlist.h"
 #include "elements/drawingelement.h"
 
@@ -29,13 +30,6 @@ void paintElement(QPainter &painter, const DrawingElement &element)
     painter.setBrush(QBrush(Qt::transparent, Qt::SolidPattern));
     element.paint(&painter);
     painter.restore();
-}
-
-/// The whole device pixels that `area` touches.
-QRect devicePixels(const QRect &area, qreal ratio)
-{
-    return QRectF(area.x() * ratio, area.y() * ratio, area.width() * ratio, area.height() * ratio)
-        .toAlignedRect();
 }
 
 } // namespace
@@ -122,6 +116,7 @@ void Renderer::repaintDamage()
     }
     if (topmost < 0 || m_lowest < topmost)
         forgetBeneath();
+    m_coverages.beginRepaint(m_picture.size(), m_picture.devicePixelRatio());
     for (const QRect &area : m_damage.areas())
         repaintArea(area & QRect(QPoint(), m_size));
     if (checksRepaints)
@@ -178,8 +173,17 @@ void Renderer::paintInto(const QRect &pixels, int first, int last)
     painter.resetTransform();
     for (int i = first; i <= last; ++i) {
         if (m_elements.at(i)->paintsInto(area))
-            paintElement(painter, *m_elements.at(i));
+            paintElementInto(painter, pixels, i);
     }
+}
+
+void Renderer::paintElementInto(QPainter &painter, const QRect &pixels, int index)
+{
+    const DrawingElement &element = *m_elements.at(index);
+    // The topmost may be growing under the pen.
+    const bool mayChange = index == m_elements.size() - 1;
+    if (mayChange || !m_coverages.paint(m_picture, pixels, element))
+        paintElement(painter, element);
 }
 
 void Renderer::forgetBeneath()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "canvas/coveragecache.h"
 #include "canvas/damage.h"
 #include "canvas/savedtiles.h"
 #include "canvas/tilerevisions.h"
@@ -25,7 +26,9 @@ class QPainter;
 /// What a repaint costs depends on what changed: only elements that meet the area are painted, and
 /// only there. While nothing but the topmost element changes, as a pen gesture or the pulse of the
 /// newest mark does, what lies beneath is kept in the places where it was painted, and only the
-/// topmost element is painted anew. What is kept is never more than one picture.
+/// topmost element is painted anew. What is kept is never more than one picture. Where marks lie
+/// over or under what changed, those that are plain shapes are filled from their recorded coverage,
+/// which takes a few megabytes at most, in place of being stroked again.
 ///
 /// Areas and sizes are canvas coordinates; the picture has `devicePixelRatio` pixels for each.
 class Renderer
@@ -59,6 +62,8 @@ private:
     void repaintAll();
     void repaintDamage();
     void repaintArea(const QRect &area);
+    /// The painter paints into these pixels of the picture only.
+    void paintElementInto(QPainter &painter, const QRect &pixels, int index);
     /// Paints the elements `first` to `last`, both included, into these pixels of the picture.
     void paintInto(const QRect &pixels, int first, int last);
     /// The same onto nothing.
@@ -79,6 +84,7 @@ private:
     bool m_rebuildPending = false;
     bool m_staleAfterResize = false;
 
+    CoverageCache m_coverages; ///< of the marks below the topmost
     SavedTiles m_beneath; ///< what the lowest `m_beneathCount` elements look like
     int m_beneathCount = -1;
     bool m_picturesBeneath = false; ///< and so does the picture, where no tile is kept

@@ -46,12 +46,26 @@ bool DrawingElement::paintsInto(const QRect &area) const
     return paintedRect().intersects(area);
 }
 
+std::optional<PlainShape> DrawingElement::plainShape(qreal) const
+{
+    return std::nullopt;
+}
+
+void DrawingElement::paintPlainShape(QPainter *, const QColor &) const
+{
+}
+
+QColor DrawingElement::paintedColor() const
+{
+    QColor painted = color;
+    if (opacity < kOpaqueFrom)
+        painted.setAlphaF(static_cast<float>(std::max(opacity, 0.0)));
+    return painted;
+}
+
 void DrawingElement::setUpPen(QPainter *painter) const
 {
-    QColor penColor = color;
-    if (opacity < kOpaqueFrom)
-        penColor.setAlphaF(static_cast<float>(std::max(opacity, 0.0)));
-    setUpPen(painter, penColor);
+    setUpPen(painter, paintedColor());
 }
 
 void DrawingElement::setUpPen(QPainter *painter, const QColor &penColor) const

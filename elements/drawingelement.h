@@ -8,9 +8,17 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QPainter;
+
+/// What a mark paints that fills one shape with one colour, and does nothing else.
+struct PlainShape {
+    quint64 outline; ///< as long as it and the pen's width stay, the same pixels are covered
+    int pathElements; ///< how long the outline is
+    QColor color;
+};
 
 /// One mark on the canvas. It paints itself, answers hit tests, reports its bounds and is moved,
 /// scaled and rotated in place.
@@ -53,6 +61,12 @@ public:
     /// Whether `paint` may touch a pixel of `area`; cheaper than painting to find out.
     virtual bool paintsInto(const QRect &area) const;
 
+    /// Empty when `paint` may do more than fill a plain shape on a canvas of this many device
+    /// pixels to one, or not exactly the same wherever the painter's clip is.
+    virtual std::optional<PlainShape> plainShape(qreal devicePixelRatio) const;
+    /// Fills that shape with a colour, taken as it stands.
+    virtual void paintPlainShape(QPainter *painter, const QColor &fillColor) const;
+
     QString id; ///< braced UUID; copies keep the id of their source
     qint32 type; ///< a `Kind`
     QColor color;
@@ -68,6 +82,8 @@ protected:
     void setUpPen(QPainter *painter) const;
     /// The same in another colour, taken as it stands.
     void setUpPen(QPainter *painter, const QColor &penColor) const;
+    /// The element's colour and opacity in one.
+    QColor paintedColor() const;
     /// How far the pen can touch pixels beside the line that it follows.
     double penReach() const;
 

@@ -7,6 +7,7 @@
 #include <QPainterPathStroker>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 
 namespace
@@ -62,17 +63,20 @@ void FreehandElement::drawPath(QPainter *painter) const
         painter->strokePath(visible, painter->pen());
 }
 
-QPainterPath FreehandElement::visiblePath(const QPainter &painter) const
+bool FreehandElement::isDivisible(const QTransform &transform) const
 {
     // Lines of up to a device pixel are traced from end to end, quickly but so that their pixels
     // depend on where the trace began.
-    const QTransform &transform = painter.combinedTransform();
     const double width = std::max(penWidth, 0);
     const bool isTraced = std::abs(transform.determinant()) * width * width <= 1.0;
     // Of a line that leaves the range of the rasterizer all the other pixels change slightly.
     const QRectF extent = transform.mapRect(QRectF(paintedRect()));
-    const bool isFar = !kRasterRange.contains(extent);
-    if (isTraced || isFar || !painter.hasClipping())
+    return !isTraced && kRasterRange.contains(extent);
+}
+
+QPainterPath FreehandElement::visiblePath(const QPainter &painter) const
+{
+    if (!painter.hasClipping() || !isDivisible(painter.combinedTransform()))
         return path;
     const double reach = penReach();
     return segmentsNear(
@@ -160,6 +164,23 @@ bool FreehandElement::paintsInto(const QRect &area) const
            });
 }
 
+std::optional<PlainShape> FreehandElement::plainShape(qreal devicePixelRatio) const
+{
+    static std::atomic<quint64> lastOutline = 0;
+    if (isEraser || path.isEmpty()
+        || !isDivisible(QTransform::fromScale(devicePixelRatio, devicePixelRatio)))
+        return std::nullopt;
+    if (m_outline == 0)
+        m_outline = ++lastOutline;
+    return PlainShape{ m_outline, path.elementCount(), paintedColor() };
+}
+
+void FreehandElement::paintPlainShape(QPainter *painter, const QColor &fillColor) const
+{
+    setUpPen(painter, fillColor);
+    painter->strokePath(path, painter->pen());
+}
+
 QRect FreehandElement::replacePoints(const QList<QPoint> &replacement)
 {
     const QRect before = paintedRect();
@@ -186,6 +207,7 @@ void FreehandElement::grow(const QList<QPoint> &replacement)
 {
     const qsizetype drawn = points.size();
     points.append(replacement.sliced(drawn));
+    m_outline = 0;
     extendSmoothedPath(path, points, drawn);
 }
 
@@ -213,6 +235,7 @@ void FreehandElement::buildPath() const
     m_stretches.clear();
     m_indexedElements = 0;
     m_areaCount = 0;
+    m_outline = 0;
 }
 
 const StretchIndex &FreehandElement::stretches() const

@@ -24,6 +24,8 @@ public:
     QRect paintedRect() const override;
     std::vector<QRect> paintedPieces() const override;
     bool paintsInto(const QRect &area) const override;
+    std::optional<PlainShape> plainShape(qreal devicePixelRatio) const override;
+    void paintPlainShape(QPainter *painter, const QColor &fillColor) const override;
     /// Takes these points, rebuilds the curve and answers every pixel that may have changed. While
     /// a stroke grows, each list being the one before with more points at its end, that is only its
     /// end, and costs no more than its end does, however long it has become.
@@ -50,6 +52,8 @@ private:
     QRect paintedRectFrom(qsizetype firstNewPoint) const;
     void buildPath() const;
     void drawPath(QPainter *painter) const;
+    /// Whether a piece of what the path paints is what a piece of the path paints there.
+    bool isDivisible(const QTransform &transform) const;
     /// The path without what the painter's clip hides.
     QPainterPath visiblePath(const QPainter &painter) const;
     /// Replaces every point and rebuilds the path.
@@ -59,6 +63,7 @@ private:
     // Derived from the path, for as long as it is not empty and has as many elements.
     mutable StretchIndex m_stretches;
     mutable int m_indexedElements = 0;
+    mutable quint64 m_outline = 0; ///< this path's number; 0 when it has none yet
     mutable QRectF m_area;
     mutable qsizetype m_areaCount = 0; ///< points inside `m_area`
 };
