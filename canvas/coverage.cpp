@@ -49,8 +49,8 @@ void Coverage::fill(QImage &picture, const QRect &clip, QRgb ink) const
     }
 }
 
-qsizetype Coverage::bytes() const
+std::size_t Coverage::bytes() const
 {
-    return qsizetype(sizeof(Coverage) + m_rows.size() * sizeof(Row) + m_runs.size() * sizeof(Run)
-        + m_values.size());
+    return sizeof(Coverage) + m_rows.size() * sizeof(Row) + m_runs.size() * sizeof(Run)
+        + m_values.size();
 }

@@ -17,7 +17,7 @@ public:
     /// Fills the shape inside `clip` as QPainter fills it antialiased, bit for bit. The picture is
     /// of `Format_ARGB32` and holds `clip`; `ink` is premultiplied.
     void fill(QImage &picture, const QRect &clip, QRgb ink) const;
-    [[nodiscard]] qsizetype bytes() const;
+    [[nodiscard]] std::size_t bytes() const;
 
 private:
     /// Neighbouring pixels that are covered.

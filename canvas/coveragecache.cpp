@@ -86,7 +86,7 @@ Coverage CoverageCache::recorded(const DrawingElement &element) const
 
 const CoverageCache::Entry *CoverageCache::keep(const Key &key, Coverage coverage)
 {
-    const auto cost = qsizetype(sizeof(Entry)) + coverage.bytes();
+    const std::size_t cost = sizeof(Entry) + coverage.bytes();
     auto *entry = new Entry{ m_repaint, std::move(coverage) };
-    return m_entries.insert(key, entry, cost) ? entry : nullptr;
+    return m_entries.insert(key, entry, qsizetype(cost)) ? entry : nullptr;
 }

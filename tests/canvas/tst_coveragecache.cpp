@@ -8,6 +8,10 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+#include <algorithm>
+#include <memory>
+#include <vector>
+
 namespace
 {
 
@@ -153,9 +157,8 @@ void TestCoverageCache::keepsPlainStrokesOnly()
 void TestCoverageCache::limitsWhatOneRepaintTakes()
 {
     QRandomGenerator random(5);
-    std::vector<std::unique_ptr<FreehandElement>> strokes;
-    for (int i = 0; i < 100; ++i)
-        strokes.push_back(randomStroke(random));
+    std::vector<std::unique_ptr<FreehandElement>> strokes(100);
+    std::generate(strokes.begin(), strokes.end(), [&] { return randomStroke(random); });
     CoverageCache cache;
     QImage picture = emptyPicture(1.0);
     const auto keptAtNextRepaint = [&] {
