@@ -11,6 +11,8 @@
 class GoalTable : public benchmark::ConsoleReporter
 {
 public:
+    GoalTable() : ConsoleReporter(OO_Tabular) {}
+
     void ReportRuns(const std::vector<Run> &runs) override;
 
     /// Prints one line for each goal: what, direction (">=" or "<="), bound, measured and unit,

@@ -64,7 +64,7 @@ MotionProbe::Result MotionProbe::draw(const std::vector<Place> &stroke)
     Result result;
     m_cycles.clear();
     // Motions that kept to a clock would always meet other clocks at the same moment.
-    std::mt19937 random(stroke.size()); // NOLINT(bugprone-random-generator-seed)
+    std::mt19937 random(stroke.size());
     std::uniform_real_distribution<double> jitter(0.5, 1.5);
     fake(XCB_MOTION_NOTIFY, 0, stroke.front());
     fake(XCB_BUTTON_PRESS, kLeftButton, stroke.front());

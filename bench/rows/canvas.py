@@ -9,8 +9,7 @@ from .row import Row
 def rows(stages, notes):
     bench = stages.tool("canvas_bench")
     # Its log of single benchmarks goes by while it works; the goals come last.
-    with subprocess.Popen([bench, "--benchmark_color=false"], text=True,
-                          stdout=subprocess.PIPE) as popen:
+    with subprocess.Popen([bench], text=True, stdout=subprocess.PIPE) as popen:
         for line in popen.stdout:
             fields = line.rstrip("\n").split("\t")
             if len(fields) == 5:
