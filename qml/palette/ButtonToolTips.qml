@@ -11,7 +11,8 @@ Item {
     readonly property ButtonToolTip tip: loader.item as ButtonToolTip
 
     function showFor(target, pointerY) {
-        loader.active = true;
+        if (!tip)
+            loader.setSource("qrc:/ButtonToolTip.qml", { palette: palette, flyouts: flyouts });
         tip.showFor(target, pointerY);
     }
 
@@ -25,12 +26,5 @@ Item {
             tip.hide();
     }
 
-    Loader {
-        id: loader
-        active: false
-        sourceComponent: ButtonToolTip {
-            palette: root.palette
-            flyouts: root.flyouts
-        }
-    }
+    Loader { id: loader }
 }

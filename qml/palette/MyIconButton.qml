@@ -88,7 +88,7 @@ Rectangle {
         active: root.textVisible
 
         sourceComponent: Text {
-            text: root.btn_txt
+            text: root.btn_txt // qmllint disable unqualified
             color: Theme.ink
             font { bold: true; pointSize: 5 }
             // Letters this small need hinting.
