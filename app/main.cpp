@@ -7,6 +7,7 @@
 #include "app/startup.h"
 #include "app/systemtray.h"
 #include "app/trayicon.h"
+#include "app/warmup.h"
 #include "platform/terminationrequest.h"
 #include "platform/windowsystem.h"
 #include "settings/settingsclazz.h"
@@ -64,6 +65,16 @@ int runInterface(QApplication &application, SingleInstance &instance)
     return QApplication::exec();
 }
 
+/// Here nothing of the interface exists yet, but for what the documents are made of.
+Rendering chooseRendering(int &argc, char **argv)
+{
+    RenderingProbe probe(argc, argv);
+    if (probe.asksElsewhere()) {
+        warmUpInterface();
+    }
+    return probe.decide();
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -73,7 +84,7 @@ int main(int argc, char *argv[])
     Startup::requestTranslucentWindows();
     qputenv("QT_OPENGL", "desktop");
 
-    const Rendering rendering = probeRendering(argc, argv);
+    const Rendering rendering = chooseRendering(argc, argv);
     SettingsClazz settings;
     applyRendering(rendering);
     settings.setIniValue(QLatin1String(SettingsKeys::kIniRenderingGroup),

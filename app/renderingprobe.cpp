@@ -1,32 +1,57 @@
 #include "app/renderingprobe.h"
 
 #include "app/logtexts.h"
+#include "app/openglanswer.h"
+#include "platform/gpudevice.h"
 
 #include <QDebug>
 #include <QGuiApplication>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
-#include <QOpenGLFunctions>
 
 namespace
 {
 
-const char *glText(QOpenGLFunctions &functions, GLenum name)
+/// A driver that is slow to wake up is waited for; one that hangs must not keep the program from
+/// starting.
+constexpr int kDriverTimeoutMs = 10000;
+
+/// Runs in the other process.
+QByteArray askInNewApplication(int &argc, char **argv)
 {
-    return reinterpret_cast<const char *>(functions.glGetString(name));
+    // Where there can be only one answer, ask for it in the quicker of the two ways: GLX tries and
+    // rejects every driver for graphics processors first.
+    constexpr char kIntegration[] = "QT_XCB_GL_INTEGRATION";
+    if (!gpuDeviceMayExist() && qEnvironmentVariableIsEmpty(kIntegration)) {
+        qputenv(kIntegration, "xcb_egl");
+    }
+    const QGuiApplication application(argc, argv);
+    return askOpenGl().toBytes();
 }
 
-/// `context` is current.
-Rendering judge(const QOpenGLContext &context)
+} // namespace
+
+RenderingProbe::RenderingProbe(int &argc, char **argv)
+    : m_elsewhere(SideProcess::start([&argc, argv] { return askInNewApplication(argc, argv); }))
 {
-    QOpenGLFunctions *functions = context.functions();
-    if (!functions) {
+    // The main application object takes over this one's connection to the window system and its
+    // event dispatcher, and ends both. Ending this one afterwards would use them once more, so it
+    // is never destroyed. It has no widgets either: the tables that Qt keeps of those would be
+    // set up twice and the first ones lost.
+    [[maybe_unused]] static const auto *const application = new QGuiApplication(argc, argv);
+}
+
+Rendering RenderingProbe::decide()
+{
+    const OpenGlAnswer openGl = answer();
+    QGuiApplication::quit();
+    if (!openGl.contextWorks) {
+        return Rendering::Software;
+    }
+    if (!openGl.names) {
         return Rendering::Hardware;
     }
-    const char *renderer = glText(*functions, GL_RENDERER);
-    qDebug() << StartupLogTexts::kOpenGlRenderer << renderer;
-    qDebug() << StartupLogTexts::kOpenGlVersion << glText(*functions, GL_VERSION);
-    if (isSoftwareRenderer(renderer)) {
+    qDebug() << StartupLogTexts::kOpenGlRenderer << openGl.names->renderer.constData();
+    qDebug() << StartupLogTexts::kOpenGlVersion << openGl.names->version.constData();
+    if (isSoftwareRenderer(openGl.names->renderer)) {
         qDebug() << StartupLogTexts::kSoftwareRendererFound;
         return Rendering::Software;
     }
@@ -34,28 +59,13 @@ Rendering judge(const QOpenGLContext &context)
     return Rendering::Hardware;
 }
 
-} // namespace
-
-Rendering probeRendering(int &argc, char **argv)
+OpenGlAnswer RenderingProbe::answer()
 {
-    // The main application object takes over this one's connection to the window system and its
-    // event dispatcher, and ends both. Ending this one afterwards would use them once more, so it
-    // is never destroyed. It has no widgets either: the tables that Qt keeps of those would be
-    // set up twice and the first ones lost.
-    [[maybe_unused]] static const auto *const application = new QGuiApplication(argc, argv);
-
-    // For the same reason nothing that draws may outlive this function: a context that is
-    // destroyed after the connection crashes.
-    Rendering rendering = Rendering::Software;
-    {
-        QOffscreenSurface surface;
-        surface.create();
-        QOpenGLContext context;
-        if (context.create() && context.makeCurrent(&surface)) {
-            rendering = judge(context);
-            context.doneCurrent();
-        }
+    if (!m_elsewhere) {
+        // A context that is destroyed after the connection to the window system crashes; this one
+        // goes at once.
+        return askOpenGl();
     }
-    QGuiApplication::quit();
-    return rendering;
+    const auto bytes = m_elsewhere->result(kDriverTimeoutMs);
+    return bytes ? OpenGlAnswer::fromBytes(*bytes) : OpenGlAnswer{};
 }

@@ -1,9 +1,8 @@
 #include "app/trayicon.h"
 
-#include "app/identity.h"
-
 #include <QAction>
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QQuickWindow>
 
@@ -14,7 +13,7 @@ TrayIcon::TrayIcon() : m_toggleAction(new QAction(&m_menu)), m_exitAction(new QA
     m_menu.addAction(m_toggleAction);
     m_menu.addAction(m_exitAction);
     m_icon.setContextMenu(&m_menu);
-    m_icon.setIcon(QIcon(QLatin1String(Identity::kIcon)));
+    m_icon.setIcon(QGuiApplication::windowIcon());
 }
 
 void TrayIcon::show()
@@ -30,7 +29,7 @@ void TrayIcon::adopt(QObject *object)
     }
     m_window = window;
     window->setColor(Qt::transparent);
-    window->setIcon(QIcon(QLatin1String(Identity::kIcon)));
+    window->setIcon(QGuiApplication::windowIcon());
     connect(m_toggleAction, &QAction::triggered, window, [this] { toggleWindow(); });
     // The window also hides and shows itself; the text tells what the action would do now.
     connect(window, &QQuickWindow::visibleChanged, this, &TrayIcon::noteVisibility);

@@ -27,6 +27,9 @@ Rectangle {
     property var tip: null
     property string accessibleName: toolTipText
 
+    // A sum becomes native code. For `|` the compiler leaves it to the engine, which first lists
+    // every name that Qt knows, and the start waits for that.
+    readonly property int buttons: Qt.LeftButton + Qt.RightButton
     readonly property alias picture: image
     readonly property alias hovered: mouseArea.containsMouse
 
@@ -79,15 +82,18 @@ Rectangle {
         }
     }
 
-    Text {
+    Loader {
         id: caption
         anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom }
-        visible: root.textVisible
-        text: root.btn_txt
-        color: Theme.ink
-        font { bold: true; pointSize: 5 }
-        // Letters this small need hinting.
-        renderType: Text.NativeRendering
+        active: root.textVisible
+
+        sourceComponent: Text {
+            text: root.btn_txt // qmllint disable unqualified
+            color: Theme.ink
+            font { bold: true; pointSize: 5 }
+            // Letters this small need hinting.
+            renderType: Text.NativeRendering
+        }
     }
 
     Image {
@@ -121,7 +127,7 @@ Rectangle {
         id: mouseArea
         anchors { fill: parent; topMargin: -root.reach; bottomMargin: -root.reach }
         hoverEnabled: true
-        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        acceptedButtons: root.buttons
         cursorShape: root.enableEvent ? Qt.ForbiddenCursor
                    : !root.isMoveStyle ? Qt.ArrowCursor
                    : pressed ? Qt.ClosedHandCursor : Qt.OpenHandCursor

@@ -32,6 +32,8 @@ Image {
     source: shrinks ? picture.replace(/\.png$/, "@3x.png") : picture
     sourceSize: shrinks ? Qt.size(sidePx, sidePx) : undefined
     fillMode: Image.PreserveAspectFit
+    // The cache keeps a picture that nobody shows any more and wakes up for a minute to drop it.
+    cache: false
 
     onWidthChanged: snapToPixels()
     Component.onCompleted: snapToPixels()

@@ -51,6 +51,9 @@ Window {
     /// pointer elsewhere the palette may be reached with the window switcher.
     readonly property bool refusesKeyboard: !shownOnce || ((pointer.hovered || dragging) && !active)
     property bool shownOnce: false
+    /// The window's flags, summed for the sake of a quick start: see MyIconButton.
+    readonly property int kind: Qt.Window + Qt.FramelessWindowHint + Qt.WindowStaysOnTopHint
+                                + (refusesKeyboard ? Qt.WindowDoesNotAcceptFocus : 0)
 
     function leaveText() {
         if (drawWindow)
@@ -85,8 +88,7 @@ Window {
     }
 
     title: qsTr("主窗口")
-    flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
-           | (refusesKeyboard ? Qt.WindowDoesNotAcceptFocus : 0)
+    flags: kind
     color: "transparent"
     width: 50 * scaleFactor
     height: (sheet.isOpen ? 99 : 800) * scaleFactor
@@ -149,7 +151,7 @@ Window {
     ScreenShutter { id: screenShutter; settings: settingClazz }
     CaptureWindows { id: captures; palette: root; videoCapture: videoCaptureObj }
 
-    ButtonToolTip { id: tip; palette: root; flyouts: flyouts }
+    ButtonToolTips { id: tip; palette: root; flyouts: flyouts }
 
     HoverHandler { id: pointer }
     FocusReturn { id: focusReturn; window: root }

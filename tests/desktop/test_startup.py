@@ -29,6 +29,15 @@ class StartupTest(desktop.DesktopTestCase):
         config.read(os.path.join(self.app_folder, "config.ini"))
         self.assertEqual(config["APP"]["opengl"], "software")
         program.wait_for_log("Forcing software OpenGL rendering")
+        steps = ["OpenSSL version: ", "OpenGL renderer: ", "OpenGL version: ",
+                 "Detected software OpenGL renderer", "Forcing software", "LanguageManager created"]
+        places = [program.log().find(step) for step in steps]
+        self.assertEqual(places, sorted(places))
+        self.assertNotIn(-1, places)
+        # Whoever was asked about OpenGL has ended, and its libraries are not in this process.
+        self.assertEqual(program.children(), [])
+        with open(f"/proc/{program.pid}/maps", encoding="utf-8") as maps:
+            self.assertNotIn("swrast_dri", maps.read())
         desktop.TrayIcon(self.desktop, program).choose(desktop.EXIT)
         self.assertEqual(program.wait_for_end(), 0)
 

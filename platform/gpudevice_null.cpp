@@ -1,0 +1,6 @@
+#include "platform/gpudevice.h"
+
+bool gpuDeviceMayExist()
+{
+    return true;
+}
