@@ -11,7 +11,7 @@
 class GoalTable : public benchmark::ConsoleReporter
 {
 public:
-    GoalTable() : ConsoleReporter(OO_Tabular) {}
+    GoalTable() : ConsoleReporter(OO_Tabular) { }
 
     void ReportRuns(const std::vector<Run> &runs) override;
 
