@@ -35,13 +35,10 @@ void OverlaySurface::setWindow(QWindow *window)
         return;
     m_window = window;
     m_backend = OverlayBackend::create(window);
-    connect(m_backend.get(), &OverlayBackend::compositedChanged, this,
-        &OverlaySurface::compositedChanged);
     // Qt Quick ends every gesture when the program loses the keyboard; see eventFilter.
     disconnect(qGuiApp, &QGuiApplication::applicationStateChanged, window, nullptr);
     watchScreens();
     emit windowChanged();
-    emit compositedChanged();
 }
 
 void OverlaySurface::setAnchor(QWindow *anchor)
@@ -50,11 +47,6 @@ void OverlaySurface::setAnchor(QWindow *anchor)
         return;
     m_anchor = anchor;
     emit anchorChanged();
-}
-
-bool OverlaySurface::isComposited() const
-{
-    return !m_backend || m_backend->isComposited();
 }
 
 void OverlaySurface::watchScreens()

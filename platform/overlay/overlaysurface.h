@@ -25,9 +25,6 @@ class OverlaySurface : public QObject
     /// the gesture is finished first: the desktop would see its release without the press.
     Q_PROPERTY(
         bool passThrough READ passThrough WRITE setPassThrough NOTIFY passThroughChanged FINAL)
-    /// Whether transparent windows show what is beneath them.
-    Q_PROPERTY(bool composited READ isComposited NOTIFY compositedChanged FINAL)
-
     /// Whether the gesture under way, or the last one, is made with the eraser end of a tablet pen.
     Q_PROPERTY(bool eraserTip READ eraserTip NOTIFY eraserTipChanged FINAL)
 
@@ -41,7 +38,6 @@ public:
     void setAnchor(QWindow *anchor);
     [[nodiscard]] bool passThrough() const { return m_passThrough; }
     void setPassThrough(bool passThrough);
-    [[nodiscard]] bool isComposited() const;
     [[nodiscard]] bool eraserTip() const { return m_eraserTip; }
 
     /// Shows the window over the whole monitor of the anchor, panels included.
@@ -58,7 +54,6 @@ signals:
     void windowChanged();
     void anchorChanged();
     void passThroughChanged();
-    void compositedChanged();
     void eraserTipChanged();
 
 private:

@@ -141,7 +141,7 @@ Window {
             id: overlayGround
             anchors.fill: parent
             surface: overlaySurface
-            marks: myPainter
+            outline: [myPainter]
             visible: root.color.a === 0 // a board hides the desktop, and so the desktop's picture
             onFirstFrozen: infoBar.showWarning(
                 qsTr("桌面没有运行合成器：您将在静止的屏幕画面上绘制"), 6000)
