@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QRect>
 
 #include <memory>
 
@@ -23,6 +23,9 @@ public:
     /// Lets every click, wheel step and touch through to what lies beneath, or takes them back,
     /// without unmapping the window. Takes effect at once.
     virtual void setInputTransparent(bool transparent);
+    /// While the overlay takes clicks, those within this rectangle go to what lies beneath all the
+    /// same. In the window's logical pixels; an empty rectangle takes it back.
+    virtual void leaveOpen(const QRect &area) { Q_UNUSED(area) }
     /// Gives the keyboard to the overlay.
     virtual void takeFocus();
     /// Gives the keyboard back to the window that had it before, or to the topmost one beneath, and

@@ -11,6 +11,7 @@
 namespace
 {
 constexpr quint32 kNeverBypass = 2; // _NET_WM_BYPASS_COMPOSITOR: never take this window out
+constexpr int kAnySize = 32767; // the longest that a window can be
 
 class X11OverlayBackend : public OverlayBackend, public QAbstractNativeEventFilter
 {
@@ -21,6 +22,7 @@ public:
 
     void prepareWindow() override;
     void setInputTransparent(bool transparent) override;
+    void leaveOpen(const QRect &area) override;
     void takeFocus() override;
     void returnFocus() override;
     void keepAbove(QWindow *other) override;
@@ -28,10 +30,14 @@ public:
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
 private:
+    void shapeInput();
+    void setInputShape(xcb_shape_op_t operation, const QRect &area);
     [[nodiscard]] xcb_window_t id() const { return static_cast<xcb_window_t>(window()->winId()); }
 
     X11Connection m_x11;
     X11Focus m_focus;
+    bool m_inputTransparent = false;
+    QRect m_open; ///< in the window's native pixels
 };
 
 X11OverlayBackend::X11OverlayBackend(QWindow *window, X11Connection x11)
@@ -75,12 +81,36 @@ void X11OverlayBackend::prepareWindow()
 
 void X11OverlayBackend::setInputTransparent(bool transparent)
 {
+    m_inputTransparent = transparent;
+    shapeInput();
+}
+
+void X11OverlayBackend::leaveOpen(const QRect &area)
+{
+    const qreal ratio = window()->devicePixelRatio();
+    m_open = QRectF(QPointF(area.topLeft()) * ratio, QSizeF(area.size()) * ratio).toAlignedRect();
+    shapeInput();
+}
+
+void X11OverlayBackend::setInputShape(xcb_shape_op_t operation, const QRect &area)
+{
+    const xcb_rectangle_t rectangle{ static_cast<int16_t>(area.x()), static_cast<int16_t>(area.y()),
+        static_cast<uint16_t>(area.width()), static_cast<uint16_t>(area.height()) };
+    xcb_shape_rectangles(m_x11.get(), operation, XCB_SHAPE_SK_INPUT, XCB_CLIP_ORDERING_UNSORTED,
+        id(), 0, 0, 1, &rectangle);
+}
+
+void X11OverlayBackend::shapeInput()
+{
     // An empty input shape lets everything through; no shape at all follows the window's size.
-    if (transparent) {
+    if (m_inputTransparent) {
         xcb_shape_rectangles(m_x11.get(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT,
             XCB_CLIP_ORDERING_UNSORTED, id(), 0, 0, 0, nullptr);
-    } else {
+    } else if (m_open.isEmpty()) {
         xcb_shape_mask(m_x11.get(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, id(), 0, 0, XCB_NONE);
+    } else {
+        setInputShape(XCB_SHAPE_SO_SET, { 0, 0, kAnySize, kAnySize });
+        setInputShape(XCB_SHAPE_SO_SUBTRACT, m_open);
     }
     m_x11.flush();
 }

@@ -16,6 +16,12 @@ bool isEraser(const QPointerEvent *event)
 {
     return event->pointerType() == QPointingDevice::PointerType::Eraser;
 }
+
+std::function<QRect()> &reachable()
+{
+    static std::function<QRect()> area;
+    return area;
+}
 } // namespace
 
 OverlaySurface::OverlaySurface(QObject *parent) : QObject(parent)
@@ -47,6 +53,33 @@ void OverlaySurface::setAnchor(QWindow *anchor)
         return;
     m_anchor = anchor;
     emit anchorChanged();
+}
+
+void OverlaySurface::setReachable(std::function<QRect()> area)
+{
+    reachable() = std::move(area);
+}
+
+void OverlaySurface::setSeeThrough(bool seeThrough)
+{
+    if (seeThrough == m_seeThrough)
+        return;
+    m_seeThrough = seeThrough;
+    leaveReachableOpen();
+    emit seeThroughChanged();
+}
+
+void OverlaySurface::leaveReachableOpen()
+{
+    if (!m_window || !m_window->handle())
+        return;
+    QRect open;
+    if (m_seeThrough && reachable())
+        open = reachable()().translated(-m_window->position());
+    if (open == m_open)
+        return;
+    m_open = open;
+    m_backend->leaveOpen(open);
 }
 
 void OverlaySurface::watchScreens()
@@ -102,6 +135,7 @@ void OverlaySurface::takeOver()
     if (!m_window)
         return;
     m_covering = true;
+    leaveReachableOpen();
     for (QWindow *own : QGuiApplication::topLevelWindows())
         stackOther(own);
     if (!m_passThrough)
@@ -201,8 +235,13 @@ void OverlaySurface::followPointer(const QEvent *event)
     case QEvent::TabletRelease:
         m_penErases = false;
         return;
+    case QEvent::Expose:
+        m_open = {}; // a window manager that was just taking the window in may have missed it
+        leaveReachableOpen();
+        return;
     case QEvent::Enter: // the pointer was elsewhere, so no gesture of the overlay's is under way
         m_buttonDown = false;
+        leaveReachableOpen(); // panels move their icons about
         break;
     default:
         return;

@@ -97,6 +97,7 @@ Window {
     OverlaySurface {
         id: overlaySurface
         window: root
+        seeThrough: root.color.a === 0
     }
 
     Timer {
