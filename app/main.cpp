@@ -8,6 +8,7 @@
 #include "app/systemtray.h"
 #include "app/trayicon.h"
 #include "app/warmup.h"
+#include "platform/overlay/overlaysurface.h"
 #include "platform/terminationrequest.h"
 #include "platform/windowsystem.h"
 #include "settings/settingsclazz.h"
@@ -49,6 +50,8 @@ int runInterface(QApplication &application, SingleInstance &instance)
     Startup::publishToDocuments(*engine.rootContext());
 
     TrayIcon tray;
+    OverlaySurface::setReachable(
+        [icon = QPointer(&tray)] { return icon ? icon->area() : QRect(); });
     QObject::connect(
         &engine, &QQmlApplicationEngine::objectCreated, &application,
         [&tray](QObject *object) { tray.adopt(object); }, Qt::QueuedConnection);

@@ -25,6 +25,9 @@ public:
     /// Brings the main window back to the user's eyes.
     void showWindow();
 
+    /// Where the icon stands on the desktop; empty where the panel does not tell.
+    [[nodiscard]] QRect area() const { return m_icon.geometry(); }
+
     /// Renews the texts after a change of the language.
     void retranslate();
 

@@ -7,11 +7,11 @@
 #include <QWindow>
 
 #include <xcb/shape.h>
-#include <xcb/xfixes.h>
 
 namespace
 {
 constexpr quint32 kNeverBypass = 2; // _NET_WM_BYPASS_COMPOSITOR: never take this window out
+constexpr int kAnySize = 32767; // the longest that a window can be
 
 class X11OverlayBackend : public OverlayBackend, public QAbstractNativeEventFilter
 {
@@ -22,32 +22,27 @@ public:
 
     void prepareWindow() override;
     void setInputTransparent(bool transparent) override;
+    void leaveOpen(const QRect &area) override;
     void takeFocus() override;
     void returnFocus() override;
     void keepAbove(QWindow *other) override;
-    bool isComposited() const override { return m_composited; }
 
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
 private:
-    void watchCompositor();
-    void noteCompositor(bool present);
-    [[nodiscard]] bool hasCompositor() const;
+    void shapeInput();
+    void setInputShape(xcb_shape_op_t operation, const QRect &area);
     [[nodiscard]] xcb_window_t id() const { return static_cast<xcb_window_t>(window()->winId()); }
 
     X11Connection m_x11;
     X11Focus m_focus;
-    xcb_atom_t m_compositorSelection;
-    uint8_t m_selectionEvent = 0; ///< 0, an error's number, while there is nothing to watch
-    bool m_composited;
+    bool m_inputTransparent = false;
+    QRect m_open; ///< in the window's native pixels
 };
 
 X11OverlayBackend::X11OverlayBackend(QWindow *window, X11Connection x11)
-    : OverlayBackend(window), m_x11(x11), m_focus(x11),
-      m_compositorSelection(x11.atom("_NET_WM_CM_S" + QByteArray::number(x11.screenNumber()))),
-      m_composited(hasCompositor())
+    : OverlayBackend(window), m_x11(x11), m_focus(x11)
 {
-    watchCompositor();
     qGuiApp->installNativeEventFilter(this);
 }
 
@@ -57,50 +52,17 @@ X11OverlayBackend::~X11OverlayBackend()
         qGuiApp->removeNativeEventFilter(this);
 }
 
-void X11OverlayBackend::watchCompositor()
-{
-    const auto *xfixes = xcb_get_extension_data(m_x11.get(), &xcb_xfixes_id);
-    if (!xfixes || !xfixes->present)
-        return;
-    m_selectionEvent = static_cast<uint8_t>(xfixes->first_event + XCB_XFIXES_SELECTION_NOTIFY);
-    xcb_xfixes_select_selection_input(m_x11.get(), m_x11.root(), m_compositorSelection,
-        XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER
-            | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY
-            | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
-}
-
-bool X11OverlayBackend::hasCompositor() const
-{
-    const auto cookie = xcb_get_selection_owner(m_x11.get(), m_compositorSelection);
-    const XcbPtr<xcb_get_selection_owner_reply_t> reply(
-        xcb_get_selection_owner_reply(m_x11.get(), cookie, nullptr));
-    return reply && reply->owner != XCB_WINDOW_NONE;
-}
-
 bool X11OverlayBackend::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)
 {
     if (eventType != "xcb_generic_event_t")
         return false;
     const auto *event = static_cast<const xcb_generic_event_t *>(message);
-    const auto type = static_cast<uint8_t>(event->response_type & 0x7f);
-    if (type == XCB_PROPERTY_NOTIFY) {
-        const auto *change = static_cast<const xcb_property_notify_event_t *>(message);
-        if (change->window == m_x11.root())
-            m_focus.noteRootProperty(change->atom);
-    } else if (type == m_selectionEvent) {
-        const auto *change = static_cast<const xcb_xfixes_selection_notify_event_t *>(message);
-        if (change->selection == m_compositorSelection)
-            noteCompositor(change->owner != XCB_WINDOW_NONE);
-    }
+    if ((event->response_type & 0x7f) != XCB_PROPERTY_NOTIFY)
+        return false;
+    const auto *change = static_cast<const xcb_property_notify_event_t *>(message);
+    if (change->window == m_x11.root())
+        m_focus.noteRootProperty(change->atom);
     return false;
-}
-
-void X11OverlayBackend::noteCompositor(bool present)
-{
-    if (present == m_composited)
-        return;
-    m_composited = present;
-    emit compositedChanged();
 }
 
 void X11OverlayBackend::prepareWindow()
@@ -119,12 +81,36 @@ void X11OverlayBackend::prepareWindow()
 
 void X11OverlayBackend::setInputTransparent(bool transparent)
 {
+    m_inputTransparent = transparent;
+    shapeInput();
+}
+
+void X11OverlayBackend::leaveOpen(const QRect &area)
+{
+    const qreal ratio = window()->devicePixelRatio();
+    m_open = QRectF(QPointF(area.topLeft()) * ratio, QSizeF(area.size()) * ratio).toAlignedRect();
+    shapeInput();
+}
+
+void X11OverlayBackend::setInputShape(xcb_shape_op_t operation, const QRect &area)
+{
+    const xcb_rectangle_t rectangle{ static_cast<int16_t>(area.x()), static_cast<int16_t>(area.y()),
+        static_cast<uint16_t>(area.width()), static_cast<uint16_t>(area.height()) };
+    xcb_shape_rectangles(m_x11.get(), operation, XCB_SHAPE_SK_INPUT, XCB_CLIP_ORDERING_UNSORTED,
+        id(), 0, 0, 1, &rectangle);
+}
+
+void X11OverlayBackend::shapeInput()
+{
     // An empty input shape lets everything through; no shape at all follows the window's size.
-    if (transparent) {
+    if (m_inputTransparent) {
         xcb_shape_rectangles(m_x11.get(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT,
             XCB_CLIP_ORDERING_UNSORTED, id(), 0, 0, 0, nullptr);
-    } else {
+    } else if (m_open.isEmpty()) {
         xcb_shape_mask(m_x11.get(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, id(), 0, 0, XCB_NONE);
+    } else {
+        setInputShape(XCB_SHAPE_SO_SET, { 0, 0, kAnySize, kAnySize });
+        setInputShape(XCB_SHAPE_SO_SUBTRACT, m_open);
     }
     m_x11.flush();
 }

@@ -16,6 +16,12 @@ bool isEraser(const QPointerEvent *event)
 {
     return event->pointerType() == QPointingDevice::PointerType::Eraser;
 }
+
+std::function<QRect()> &reachable()
+{
+    static std::function<QRect()> area;
+    return area;
+}
 } // namespace
 
 OverlaySurface::OverlaySurface(QObject *parent) : QObject(parent)
@@ -35,13 +41,10 @@ void OverlaySurface::setWindow(QWindow *window)
         return;
     m_window = window;
     m_backend = OverlayBackend::create(window);
-    connect(m_backend.get(), &OverlayBackend::compositedChanged, this,
-        &OverlaySurface::compositedChanged);
     // Qt Quick ends every gesture when the program loses the keyboard; see eventFilter.
     disconnect(qGuiApp, &QGuiApplication::applicationStateChanged, window, nullptr);
     watchScreens();
     emit windowChanged();
-    emit compositedChanged();
 }
 
 void OverlaySurface::setAnchor(QWindow *anchor)
@@ -52,9 +55,31 @@ void OverlaySurface::setAnchor(QWindow *anchor)
     emit anchorChanged();
 }
 
-bool OverlaySurface::isComposited() const
+void OverlaySurface::setReachable(std::function<QRect()> area)
 {
-    return !m_backend || m_backend->isComposited();
+    reachable() = std::move(area);
+}
+
+void OverlaySurface::setSeeThrough(bool seeThrough)
+{
+    if (seeThrough == m_seeThrough)
+        return;
+    m_seeThrough = seeThrough;
+    leaveReachableOpen();
+    emit seeThroughChanged();
+}
+
+void OverlaySurface::leaveReachableOpen()
+{
+    if (!m_window || !m_window->handle())
+        return;
+    QRect open;
+    if (m_seeThrough && reachable())
+        open = reachable()().translated(-m_window->position());
+    if (open == m_open)
+        return;
+    m_open = open;
+    m_backend->leaveOpen(open);
 }
 
 void OverlaySurface::watchScreens()
@@ -110,6 +135,7 @@ void OverlaySurface::takeOver()
     if (!m_window)
         return;
     m_covering = true;
+    leaveReachableOpen();
     for (QWindow *own : QGuiApplication::topLevelWindows())
         stackOther(own);
     if (!m_passThrough)
@@ -209,8 +235,13 @@ void OverlaySurface::followPointer(const QEvent *event)
     case QEvent::TabletRelease:
         m_penErases = false;
         return;
+    case QEvent::Expose:
+        m_open = {}; // a window manager that was just taking the window in may have missed it
+        leaveReachableOpen();
+        return;
     case QEvent::Enter: // the pointer was elsewhere, so no gesture of the overlay's is under way
         m_buttonDown = false;
+        leaveReachableOpen(); // panels move their icons about
         break;
     default:
         return;

@@ -5,6 +5,7 @@
 #include <QQmlEngine>
 #include <QWindow>
 
+#include <functional>
 #include <memory>
 
 class OverlayBackend;
@@ -23,10 +24,9 @@ class OverlaySurface : public QObject
     Q_PROPERTY(QWindow *anchor READ anchor WRITE setAnchor NOTIFY anchorChanged FINAL)
     /// Whether clicks and keys go to what lies beneath. While a button is held down on the overlay
     /// the gesture is finished first: the desktop would see its release without the press.
-    Q_PROPERTY(
-        bool passThrough READ passThrough WRITE setPassThrough NOTIFY passThroughChanged FINAL)
-    /// Whether transparent windows show what is beneath them.
-    Q_PROPERTY(bool composited READ isComposited NOTIFY compositedChanged FINAL)
+    Q_PROPERTY(bool passThrough READ passThrough WRITE setPassThrough NOTIFY passThroughChanged
+            FINAL) /// Whether the desktop is seen through the window.
+    Q_PROPERTY(bool seeThrough READ seeThrough WRITE setSeeThrough NOTIFY seeThroughChanged FINAL)
 
     /// Whether the gesture under way, or the last one, is made with the eraser end of a tablet pen.
     Q_PROPERTY(bool eraserTip READ eraserTip NOTIFY eraserTipChanged FINAL)
@@ -41,8 +41,13 @@ public:
     void setAnchor(QWindow *anchor);
     [[nodiscard]] bool passThrough() const { return m_passThrough; }
     void setPassThrough(bool passThrough);
-    [[nodiscard]] bool isComposited() const;
+    [[nodiscard]] bool seeThrough() const { return m_seeThrough; }
+    void setSeeThrough(bool seeThrough);
     [[nodiscard]] bool eraserTip() const { return m_eraserTip; }
+
+    /// `area` tells where on the desktop something of this program is to be reached through every
+    /// overlay that shows the desktop, though it lies beneath: its icon in a panel.
+    static void setReachable(std::function<QRect()> area);
 
     /// Shows the window over the whole monitor of the anchor, panels included.
     Q_INVOKABLE void cover();
@@ -58,7 +63,7 @@ signals:
     void windowChanged();
     void anchorChanged();
     void passThroughChanged();
-    void compositedChanged();
+    void seeThroughChanged();
     void eraserTipChanged();
 
 private:
@@ -72,6 +77,7 @@ private:
     void setEraserTip(bool eraserTip);
     void stackOther(QWindow *other);
     void applyPassThrough();
+    void leaveReachableOpen();
 
     QPointer<QWindow> m_window;
     QPointer<QWindow> m_anchor;
@@ -80,6 +86,8 @@ private:
     QList<QPointer<const QObject>> m_stackedAbove; ///< a later window may get an old address
     bool m_passThrough = false;
     bool m_applied = false; ///< what the window's input shape is now
+    bool m_seeThrough = true;
+    QRect m_open; ///< where clicks go to what lies beneath, in the window's logical pixels
     bool m_covering = false;
     bool m_buttonDown = false; ///< on the overlay's window
     bool m_lostKeyboard = false; ///< amid a gesture, which goes on

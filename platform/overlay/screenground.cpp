@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPixmap>
+#include <QQuickPaintedItem>
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QScreen>
@@ -33,6 +34,39 @@ QRegion visibleRegion(const QImage &picture)
     region.setRects(runs.constData(), static_cast<int>(runs.size()));
     return region;
 }
+
+QRegion visiblePixels(QQuickPaintedItem *item)
+{
+    QImage picture(item->size().toSize(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    item->paint(&painter);
+    painter.end();
+    return visibleRegion(picture).translated(item->mapToScene({}).toPoint());
+}
+
+/// What the item shows, in the window's coordinates.
+QRegion shapeOf(QQuickItem *item)
+{
+    if (!item->isVisible())
+        return {};
+    if (auto *painted = qobject_cast<QQuickPaintedItem *>(item))
+        return visiblePixels(painted);
+    QRegion shape;
+    if (item->flags().testFlag(QQuickItem::ItemHasContents))
+        shape = item->mapRectToScene(item->boundingRect()).toAlignedRect();
+    const auto children = item->childItems();
+    for (QQuickItem *child : children)
+        shape += shapeOf(child);
+    return shape;
+}
+
+/// Gone before long by itself, and usually when another window opens.
+bool isFleeting(const QWindow *window)
+{
+    return window->type() == Qt::Tool || window->type() == Qt::ToolTip
+        || window->type() == Qt::Popup;
+}
 } // namespace
 
 ScreenGround::ScreenGround(QQuickItem *parent) : QQuickItem(parent)
@@ -43,6 +77,11 @@ ScreenGround::ScreenGround(QQuickItem *parent) : QQuickItem(parent)
     connect(&m_repaintTimer, &QTimer::timeout, this, &ScreenGround::takePicture);
 }
 
+ScreenGround::~ScreenGround()
+{
+    showHiddenWindows();
+}
+
 void ScreenGround::freeze()
 {
     if (m_state == State::Freezing || m_state == State::Frozen || !window())
@@ -51,12 +90,17 @@ void ScreenGround::freeze()
     m_state = State::Freezing;
     const auto windows = QGuiApplication::topLevelWindows();
     for (QWindow *own : windows) {
-        if (own->isVisible() || own == window()) {
-            own->setMask(kNowhere);
-            m_hidden.append(own);
-        }
+        if (!mustHide(own))
+            continue;
+        m_hidden.append({ own, own->mask() });
+        own->setMask(kNowhere);
     }
     m_repaintTimer.start();
+}
+
+bool ScreenGround::mustHide(const QWindow *own) const
+{
+    return own == window() || (own->isVisible() && (!m_showsOwnWindows || isFleeting(own)));
 }
 
 void ScreenGround::takePicture()
@@ -67,14 +111,14 @@ void ScreenGround::takePicture()
     emit frozen();
 }
 
-void ScreenGround::cutToMarks()
+void ScreenGround::cut()
 {
-    if (m_state == State::Cut || !window() || !m_marks)
+    if (m_state == State::Cut || !window())
         return;
     leaveState();
     m_state = State::Cut;
-    followMarks();
-    connect(window(), &QQuickWindow::frameSwapped, this, &ScreenGround::followMarks);
+    followOutline();
+    connect(window(), &QQuickWindow::frameSwapped, this, &ScreenGround::followOutline);
 }
 
 void ScreenGround::release()
@@ -89,7 +133,7 @@ void ScreenGround::leaveState()
     if (m_state == State::Frozen)
         setPicture({});
     if (m_state == State::Cut) {
-        disconnect(window(), &QQuickWindow::frameSwapped, this, &ScreenGround::followMarks);
+        disconnect(window(), &QQuickWindow::frameSwapped, this, &ScreenGround::followOutline);
         window()->setMask({});
     }
     m_state = State::Released;
@@ -97,25 +141,24 @@ void ScreenGround::leaveState()
 
 void ScreenGround::showHiddenWindows()
 {
-    for (const auto &own : std::as_const(m_hidden)) {
-        if (own)
-            own->setMask({});
+    for (const auto &hidden : std::as_const(m_hidden)) {
+        if (hidden.window)
+            hidden.window->setMask(hidden.mask);
     }
     m_hidden.clear();
 }
 
-void ScreenGround::followMarks()
+void ScreenGround::followOutline()
 {
-    if (m_state != State::Cut || !m_marks)
+    if (m_state != State::Cut)
         return;
-    QImage picture(m_marks->size().toSize(), QImage::Format_ARGB32_Premultiplied);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    m_marks->paint(&painter);
-    painter.end();
-    const QRegion shape = visibleRegion(picture);
-    // An empty region would mean the whole window.
-    window()->setMask(shape.isEmpty() ? kNowhere : shape);
+    QRegion shape;
+    for (QQuickItem *item : std::as_const(m_outline))
+        shape += shapeOf(item);
+    if (shape.isEmpty()) // which would mean the whole window
+        shape = kNowhere;
+    if (shape != window()->mask())
+        window()->setMask(shape);
 }
 
 void ScreenGround::setPicture(const QImage &picture)

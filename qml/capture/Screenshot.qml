@@ -46,17 +46,21 @@ Window {
     title: qsTr("截图")
     flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
     color: "transparent"
-    visible: true
-    visibility: Window.FullScreen
 
     Component.onCompleted: {
         console.log("截图组件 - 屏幕缩放比例:", devicePixelRatio);
         Notices.clear();
-        requestActivate();
+        ground.prepare();
     }
 
     SettingsClazz { id: settingClazz }
     CaptureOutcome { id: outcome }
+
+    CaptureGround {
+        id: ground
+        anchors.fill: parent
+        host: root
+    }
 
     RegionSelector {
         id: region

@@ -127,14 +127,12 @@ Window {
     flags: Qt.Window | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
            | (recording ? Qt.WindowTransparentForInput | Qt.WindowDoesNotAcceptFocus : 0)
     color: tranparentColor
-    visible: true
-    visibility: Window.FullScreen
 
     Component.onCompleted: {
         console.log("VideoCaptureObject component completed in VideoShot.qml");
         console.log("屏幕缩放比例:", devicePixelRatio);
         Notices.clear();
-        requestActivate();
+        ground.prepare();
     }
     // Closed in the midst of a recording, whose file is whole but for its last moment.
     Component.onDestruction: {
@@ -186,6 +184,14 @@ Window {
         onActivated: root.leave()
     }
 
+    CaptureGround {
+        id: ground
+        anchors.fill: parent
+        host: root
+        live: root.recording || root.leaving
+        outline: [corners, indicator]
+    }
+
     RegionSelector {
         id: region
         anchors.fill: parent
@@ -195,6 +201,7 @@ Window {
         marksVisible: !root.leaving
 
         CornerMarks {
+            id: corners
             color: root.selectBorderColor
             armLength: root.cornerBorderSize
             armWidth: root.cornerBorderWidth

@@ -14,10 +14,10 @@ ScreenGround {
 
     /// Does what the desktop and the state of the overlay ask for now.
     function prepare(): void {
-        if (root.surface.composited)
+        if (compositor.composited)
             root.release();
         else if (root.surface.passThrough)
-            root.cutToMarks();
+            root.cut();
         else
             root.freeze();
     }
@@ -28,9 +28,13 @@ ScreenGround {
         root.explained = true;
     }
 
+    CompositorWatch {
+        id: compositor
+        onCompositedChanged: root.prepare()
+    }
+
     Connections {
         target: root.surface
-        function onCompositedChanged() { root.prepare(); }
         function onPassThroughChanged() { root.prepare(); }
     }
 }

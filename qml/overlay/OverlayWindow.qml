@@ -97,6 +97,7 @@ Window {
     OverlaySurface {
         id: overlaySurface
         window: root
+        seeThrough: root.color.a === 0
     }
 
     Timer {
@@ -141,7 +142,7 @@ Window {
             id: overlayGround
             anchors.fill: parent
             surface: overlaySurface
-            marks: myPainter
+            outline: [myPainter]
             visible: root.color.a === 0 // a board hides the desktop, and so the desktop's picture
             onFirstFrozen: infoBar.showWarning(
                 qsTr("桌面没有运行合成器：您将在静止的屏幕画面上绘制"), 6000)

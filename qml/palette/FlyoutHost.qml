@@ -73,7 +73,7 @@ Item {
         });
         root.kind = kind;
         palette.seX = onLeft ? -popupWidth : Math.round(50 * palette.scaleFactor);
-        palette.seY = flyoutKind.seY * palette.scaleFactor;
+        palette.seY = flyoutKind.seY * palette.scaleFactor - palette.scrolled;
         place(flyout, button);
         palette.selectWindow = flyout;
         flyout.show();

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Window
-import "Theme.js" as Theme
 
 /// The grey line between two buttons. It stands in the middle of the gap and takes no room of its
 /// own, so that the last button ends above the palette's bottom edge.
@@ -16,6 +15,8 @@ Item {
         width: parent.width
         // Whole device pixels, or lines would differ in thickness between two whole scale factors.
         height: Math.max(1, Math.floor(Screen.devicePixelRatio)) / Screen.devicePixelRatio
-        color: Theme.separator
+        // The separators' grey, as a shade: of an opaque line between two pixels, the software renderer
+        // leaves holes behind when the list is scrolled.
+        color: "#33000000"
     }
 }

@@ -39,6 +39,7 @@ Window {
     /// The monitor that the palette stands on, in the virtual desktop's coordinates.
     readonly property rect monitor: Qt.rect(Screen.virtualX, Screen.virtualY, Screen.width, Screen.height)
     readonly property alias collapsed: sheet.isOpen
+    readonly property alias scrolled: sheet.scrolled
     readonly property alias tools: tools
     readonly property alias effects: effects
     readonly property alias overlayLink: overlayLink
@@ -91,7 +92,7 @@ Window {
     flags: kind
     color: "transparent"
     width: 50 * scaleFactor
-    height: (sheet.isOpen ? 99 : 800) * scaleFactor
+    height: Math.min((sheet.isOpen ? 99 : 800) * scaleFactor, monitor.height)
     x: placement.start.x
     y: placement.start.y
     visible: true

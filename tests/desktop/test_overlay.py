@@ -203,6 +203,21 @@ class DrawingTest(OverlayTestCase):
         self.desktop.pointer.click(300, 700)
         self.program.wait_for_log('内容: "next"')
 
+    def test_the_icon_in_the_tray_is_used_through_the_overlay_but_not_through_a_board(self):
+        self.start_drawing()
+        icon = desktop.TrayIcon(self.desktop, self.program)
+        x, y = icon.window.centre
+        self.wait_for(lambda: self.desktop.windows.at(x, y) == icon.window, "the icon to be open")
+        icon.choose(desktop.HIDE)
+        self.wait_for(lambda: not self.palette.visible, "the palette to hide")
+        icon.choose(desktop.HIDE)
+        self.wait_for(lambda: self.palette.visible, "the palette to come back")
+        self.desktop.pointer.drag([(x - 200, y), (x, y)])  # what begins beside it goes on above it
+        self.wait_for_red(x - 4, y, "the stroke over the icon")
+        desktop.Palette(self.desktop, self.program).choose("board", "white")
+        self.wait_for(lambda: self.desktop.windows.at(x, y) == self.overlay,
+                      "the board to take clicks where it hides the icon")
+
     def test_saving_says_where_the_picture_is_or_why_there_is_none(self):
         self.start_drawing()
         self.desktop.pointer.drag([(300, 600), (500, 600)])

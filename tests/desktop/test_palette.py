@@ -131,5 +131,26 @@ class PaletteTest(desktop.DesktopTestCase):
         self.wait_for(lambda: self.window.geometry.x + 32 <= 640, "the monitor that is left")
 
 
+class LowScreenTest(desktop.DesktopTestCase):
+    """A screen of 640 by 400 logical pixels is lower than the palette."""
+
+    def test_every_tool_is_reached(self):
+        program = self.start(scale=2)
+        palette = desktop.Palette(self.desktop, program, 2)
+        rect = palette.window.geometry
+        self.assertEqual((rect.y, rect.height), (0, 800))
+        bottom = rect.x + rect.width // 2, rect.height - 20
+        for _ in range(2):  # the hint at the edge brings the rest
+            self.desktop.pointer.click(*bottom)
+        palette.open_flyout("menu")
+        self.desktop.pointer.move(*palette.point("draw"))
+        self.desktop.pointer.scroll(20)
+        palette.click("draw")
+        self.wait_for(lambda: palette.overlay, "the overlay")
+        palette.scroll_to_end()
+        palette.choose("menu", "quit")
+        self.assertEqual(program.wait_for_end(), 0)
+
+
 if __name__ == "__main__":
     desktop.main()

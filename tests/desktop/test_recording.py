@@ -8,24 +8,21 @@ import time
 
 import desktop
 from desktop import sound, video
-from desktop.capturing import CLOSE_PANEL, START, CaptureTestCase
+from desktop.capturing import ACCENT, CLOSE_PANEL, START, CaptureTestCase
 
 TONE_HZ = 1000
-RED, GREEN = (255, 0, 0), (0, 200, 0)
+RED, GREEN, PAPER = (255, 0, 0), (0, 200, 0), (250, 250, 210)
 SHOWN_S = 3.0
 NO_SOUND = {"PULSE_SERVER": "unix:/nowhere"}
 
 
-class RecordingTest(CaptureTestCase):
+class RecordingTestCase(CaptureTestCase):
 
-    def begin(self, selection=None):
-        """Starts a recording of the selection; returns the moment at which it had started."""
+    def begin(self):
+        """Starts a recording of the preset region; returns the moment at which it had started."""
         panel = self.open_window("record", "录屏")
-        if selection:
-            x, y, width, height = selection
-            self.desktop.pointer.drag([(x, y), (x + width, y + height)])
         self.start_asked = time.monotonic()
-        self.press(START, selection)
+        self.press(START)
         self.program.wait_for_log("录制已开始，界面已隐藏")
         self.wait_for(lambda: not panel.takes_pointer, "the panel to let the pointer through")
         return time.monotonic()
@@ -71,6 +68,14 @@ class RecordingTest(CaptureTestCase):
         box = above.point(lambda level: 255 if level > 150 else 0).getbbox()
         return box and box[0]
 
+    def expect_travel(self, frames):
+        """The block is at different places in the frames."""
+        places = {self.block_x(frame) for frame in frames} - {None}
+        self.assertGreater(max(places) - min(places), 20)
+
+
+class RecordingTest(RecordingTestCase):
+
     def test_shows_what_moves_and_what_is_drawn_and_plays_the_sound(self):
         server = sound.SoundServer(self.desktop)
         server.play(TONE_HZ)
@@ -95,8 +100,7 @@ class RecordingTest(CaptureTestCase):
         frames = [video.frame(path, facts.seconds * part / 10) for part in range(1, 10)]
         stroke = frames[5].getpixel((500 - x - 3, 500 - y - 3))
         self.assertTrue(desktop.near(stroke, RED, 60), stroke)
-        places = {self.block_x(frame) for frame in frames} - {None}
-        self.assertGreater(max(places) - min(places), 20)
+        self.expect_travel(frames)
 
     def test_a_killed_recorder_leaves_a_video_and_a_message(self):
         self.launch(**NO_SOUND)
@@ -188,6 +192,36 @@ class RecordingTest(CaptureTestCase):
             *alone, "sh", "-c", 'mount -t tmpfs -o size=16k none "$0" && exec "$1"', self.folder,
             program, env=NO_SOUND))
         self.expect_failure("磁盘已满")
+
+
+class NoCompositorTest(RecordingTestCase):
+    desktop_options = {"compositor": False}
+
+    def open_window(self, tool, title):
+        self.desktop.open_window("Beneath", (700, 300, 200, 200), PAPER)
+        window = super().open_window(tool, title)
+        self.expect_beneath()
+        return window
+
+    def test_the_live_screen_is_recorded_and_a_still_one_picked_from(self):
+        self.launch(**NO_SOUND)
+        self.perform(self.begin())
+        os.kill(self.recorder(), signal.SIGKILL)
+        self.notice("录制失败 · 录制程序意外结束")
+        path, = self.captures()
+        seconds = video.facts(path).seconds
+        frames = [video.frame(path, seconds * part / 5) for part in range(1, 5)]
+        self.expect_travel(frames)
+        x, y, _, _ = self.preset
+        beneath = frames[3].getpixel((800 - x - 3, 450 - y - 3))
+        self.assertTrue(desktop.near(beneath, PAPER, 40), beneath)
+        self.expect_beneath()  # there is another try
+
+    def expect_beneath(self):
+        """The panel is open for picking, and what lies beneath it is seen."""
+        self.wait_for_pixel(*self.button(START), lambda colour: desktop.near(colour, ACCENT),
+                            "the buttons")
+        self.assertTrue(desktop.near(self.desktop.screen.pixel(800, 450), PAPER))
 
 
 if __name__ == "__main__":

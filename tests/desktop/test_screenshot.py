@@ -39,9 +39,10 @@ class ScreenshotTest(CaptureTestCase):
 
     def test_holds_what_the_user_saw_pixel_by_pixel(self):
         self.launch()
-        self.palette.start_drawing()
+        overlay = self.palette.start_drawing()
         x, y, width, height = self.preset
         middle = x + width // 2, y + height // 2
+        self.wait_for(lambda: self.desktop.windows.at(*middle) == overlay, "the screen to freeze")
         self.desktop.pointer.drag([(middle[0] - 100, middle[1]), (middle[0] + 100, middle[1])])
         self.wait_for_pixel(*middle, lambda colour: desktop.near(colour, RED), "the mark")
         self.palette.stop_drawing()
@@ -67,6 +68,28 @@ class DoubleScaleTest(ScreenshotTest):
 
     scale = 2
     desktop_options = {"size": (2560, 1600), "wallpaper": pattern(2560, 1600)}
+
+
+class NoCompositorTest(ScreenshotTest):
+    """The same where no window can be transparent."""
+
+    desktop_options = {"compositor": False, "wallpaper": pattern(1280, 800)}
+
+    def open_window(self, tool, title):
+        inside, outside = (self.preset.x + 50, self.preset.y + 50), (100, 100)
+        before = self.desktop.screen.shot()
+        self.palette.hover(tool)
+        window = super().open_window(tool, title)
+        self.assertEqual(self.desktop.screen.pixel(*inside), before.getpixel(inside))
+        dimmed = tuple(level * 7 // 10 for level in before.getpixel(outside))
+        self.assertTrue(desktop.near(self.desktop.screen.pixel(*outside), dimmed, 3))
+        return window
+
+
+class NoCompositorDoubleScaleTest(NoCompositorTest):
+
+    scale = 2
+    desktop_options = {"compositor": False, "size": (2560, 1600), "wallpaper": pattern(2560, 1600)}
 
 
 class RegionTest(CaptureTestCase):

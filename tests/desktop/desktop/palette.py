@@ -8,6 +8,7 @@ WIDTH, HANDLE_HEIGHT, HANDLE_GAP, BUTTON_HEIGHT, BUTTON_GAP = 50, 48, 10, 40, 4
 ROW_PITCH, FIRST_ROW = 38, 10
 # Pixels beside the palette in which the colour dialog opens.
 DIALOG_REACH = 340
+CORNER = 6  # pixels: the rounded end of the palette
 
 TOOLS = ("collapse", "draw", "pen", "shape", "eraser", "history", "clear", "board", "screenshot",
          "record", "colour", "thickness", "fade", "breathing", "menu")
@@ -36,6 +37,7 @@ class Palette:
         self._desktop = desktop
         self._program = program
         self._dpr = dpr
+        self._scrolled = 0
 
     @property
     def window(self):
@@ -58,7 +60,16 @@ class Palette:
         top = HANDLE_HEIGHT * SCALE + _px(HANDLE_GAP)
         # A line without height of its own stands between two buttons, with a gap on either side.
         pitch = BUTTON_HEIGHT * SCALE + 2 * _px(BUTTON_GAP)
-        return self._at(WIDTH * SCALE / 2, top + number * pitch + BUTTON_HEIGHT * SCALE / 2)
+        middle = top + number * pitch + BUTTON_HEIGHT * SCALE / 2
+        return self._at(WIDTH * SCALE / 2, middle - (self._scrolled if number else 0))
+
+    def scroll_to_end(self):
+        """Turns the wheel until the last tool stands at the palette's bottom edge."""
+        self._desktop.pointer.move(*self.point("draw"))
+        self._desktop.pointer.scroll(-20)
+        window = self.window.geometry
+        end = self.point("menu")[1] - window.y + BUTTON_HEIGHT * SCALE / 2 * self._dpr
+        self._scrolled = (end - window.height) / self._dpr + CORNER
 
     def click(self, tool, button=1):
         point = self.point(tool)
