@@ -30,7 +30,6 @@ constexpr int kExitNameRefused = 1;
 int runInterface(QApplication &application, SingleInstance &instance)
 {
     Startup::setIdentity();
-    QQuickStyle::setStyle(QLatin1String(Identity::kControlsStyle));
     if (!waitForSystemTray()) {
         reportNoSystemTray(application);
         return kExitNoTray;
@@ -68,10 +67,12 @@ int runInterface(QApplication &application, SingleInstance &instance)
     return QApplication::exec();
 }
 
-/// Here nothing of the interface exists yet, but for what the documents are made of.
+/// Here nothing of the interface exists yet, but for what the documents are made of and look like:
+/// once the first of them is loaded, no style can be chosen.
 Rendering chooseRendering(int &argc, char **argv)
 {
     RenderingProbe probe(argc, argv);
+    QQuickStyle::setStyle(QLatin1String(Identity::kControlsStyle));
     if (probe.asksElsewhere()) {
         warmUpInterface();
     }

@@ -17,7 +17,7 @@ constexpr int kDriverTimeoutMs = 10000;
 /// Runs in the other process.
 QByteArray askInNewApplication(int &argc, char **argv)
 {
-    // Where there can be only one answer, ask for it in the quicker of the two ways: GLX tries and
+    // Where the answer is all but certain, ask for it in the quicker of the two ways: GLX tries and
     // rejects every driver for graphics processors first.
     constexpr char kIntegration[] = "QT_XCB_GL_INTEGRATION";
     if (!gpuDeviceMayExist() && qEnvironmentVariableIsEmpty(kIntegration)) {

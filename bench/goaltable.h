@@ -6,8 +6,8 @@
 #include <ostream>
 #include <string>
 
-/// Keeps the processor time of each benchmark, which other programs on the machine do not lengthen,
-/// and prints, after all of them, what was wanted beside it, for desktop_bench.py to read.
+/// Keeps the time that each benchmark takes on the clock, the median of its repetitions, and
+/// prints, after all of them, what was wanted beside it, for desktop_bench.py to read.
 class GoalTable : public benchmark::ConsoleReporter
 {
 public:
@@ -16,7 +16,7 @@ public:
     void ReportRuns(const std::vector<Run> &runs) override;
 
     /// Prints one line for each goal: what, direction (">=" or "<="), bound, measured and unit,
-    /// with tabs between them. A benchmark that did not run leaves its goals out.
+    /// with tabs between them. What did not run measured "nan".
     void print(std::ostream &out) const;
 
 private:

@@ -3,6 +3,7 @@
 #include "canvas/pixelblend.h"
 
 #include <algorithm>
+#include <iterator>
 
 Coverage::Coverage(const QImage &shape, const QPoint &origin) : m_origin(origin)
 {

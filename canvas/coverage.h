@@ -4,6 +4,7 @@
 #include <QPoint>
 #include <QRect>
 
+#include <cstddef>
 #include <vector>
 
 /// How much of each pixel a shape covers. Coordinates are device pixels of the picture.

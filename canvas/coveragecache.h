@@ -1,6 +1,7 @@
 #pragma once
 
 #include "canvas/coverage.h"
+#include "elements/drawingelement.h"
 
 #include <QCache>
 #include <QRect>
@@ -8,15 +9,13 @@
 #include <optional>
 #include <utility>
 
-class DrawingElement;
-struct PlainShape;
-
 /// Keeps which pixels the marks of a board cover. Putting colour there again takes a small part of
 /// the time that stroking a path does.
 ///
-/// What has not been used for longest goes first when there is too much. A mark is recorded when a
-/// second repaint asks for it, since one that changes all the time would be recorded in vain, and
-/// only so many in one repaint, so that none takes much longer than the painting it saves.
+/// What has not been used for longest goes first when there is too much. A mark is recorded when it
+/// is finished or when a second repaint asks for it, since one that changes all the time would be
+/// recorded in vain, and only so many in one repaint, so that none takes much longer than the
+/// painting it saves.
 class CoverageCache
 {
 public:
@@ -24,6 +23,8 @@ public:
 
     /// From here on it is another repaint, of a picture of such a size and ratio.
     void beginRepaint(const QSize &pixels, qreal ratio);
+    /// Records a mark that will stay as it is for a while.
+    void prepare(const DrawingElement &element);
     /// Paints the mark into these pixels, bit for bit as it paints itself. False, and nothing done,
     /// when it is no plain shape or not recorded yet.
     [[nodiscard]] bool paint(QImage &picture, const QRect &pixels, const DrawingElement &element);
@@ -35,11 +36,14 @@ private:
     };
     using Key = std::pair<quint64, int>; ///< outline and pen width
 
+    /// Empty when no coverage can stand for the element.
+    [[nodiscard]] std::optional<PlainShape> shapeOf(const DrawingElement &element) const;
     /// Null when nothing is recorded.
     const Coverage *find(const DrawingElement &element, const PlainShape &shape);
-    [[nodiscard]] bool isWorthRecording(
-        const DrawingElement &element, const PlainShape &shape) const;
-    [[nodiscard]] Coverage recorded(const DrawingElement &element) const;
+    /// Null when that would take too long now, or too much to be kept.
+    const Entry *record(const DrawingElement &element, const PlainShape &shape);
+    [[nodiscard]] static Coverage covered(
+        const DrawingElement &element, const QRect &pixels, qreal ratio);
     /// Null when that is too much to be kept.
     const Entry *keep(const Key &key, Coverage coverage);
     /// The device pixels of the picture that the element may touch.
@@ -49,5 +53,7 @@ private:
     QRect m_picture; ///< device pixels
     qreal m_ratio = 0.0;
     quint64 m_repaint = 0;
-    int m_pathElementsLeft = 0; ///< that may still be recorded in this repaint
+    // What may still be recorded in this repaint.
+    int m_pathElementsLeft = 0;
+    qint64 m_pixelsLeft = 0;
 };

@@ -73,7 +73,8 @@ public:
     [[nodiscard]] int fadeOutTime() const { return m_fadeOutTimeMs; }
     void setFadeOutTime(int milliseconds);
 
-    /// For whoever wants all of the picture; on the screen the item shows it in pieces.
+    /// For whoever wants all of the picture; on the screen the item shows it in pieces, and nothing
+    /// but the picture: neither the painted item's fill colour nor its texture.
     void paint(QPainter *painter) override;
     /// Not by itself: there is no texture of the whole picture.
     [[nodiscard]] bool isTextureProvider() const override

@@ -7,7 +7,7 @@
 #include <QSGImageNode>
 
 #include <algorithm>
-#include <memory>
+#include <utility>
 
 namespace
 {

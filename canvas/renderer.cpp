@@ -117,6 +117,9 @@ void Renderer::repaintDamage()
     if (topmost < 0 || m_lowest < topmost)
         forgetBeneath();
     m_coverages.beginRepaint(m_picture.size(), m_picture.devicePixelRatio());
+    // The mark before is finished: record it now, so that an eraser finds the whole board so.
+    if (onlyAppended && topmost > 0)
+        m_coverages.prepare(*m_elements.at(topmost - 1));
     for (const QRect &area : m_damage.areas())
         repaintArea(area & QRect(QPoint(), m_size));
     if (checksRepaints)

@@ -3,13 +3,13 @@
 #include <QDeadlineTimer>
 #include <QtGlobal>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/prctl.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -18,6 +18,9 @@ namespace
 
 /// Sent last: without it the work ended halfway.
 constexpr char kComplete = '.';
+
+constexpr int kEndTimeoutMs = 500;
+constexpr useconds_t kLookEveryUs = 200;
 
 void dropMessage(
     QtMsgType /*type*/, const QMessageLogContext & /*context*/, const QString & /*text*/)
@@ -44,8 +47,7 @@ void writeAll(int pipe, const QByteArray &bytes)
         ::_exit(1); // it ended before the line above
     }
     // Nobody can do anything with the remains of a crash that was reckoned with.
-    const rlimit none{ 0, 0 };
-    ::setrlimit(RLIMIT_CORE, &none);
+    ::prctl(PR_SET_DUMPABLE, 0);
     // A session manager would take this for a second program.
     qunsetenv("SESSION_MANAGER");
     qInstallMessageHandler(dropMessage);
@@ -75,7 +77,11 @@ CopiedProcess::~CopiedProcess()
 {
     ::close(m_pipe);
     ::kill(m_process, SIGKILL);
-    while (::waitpid(m_process, nullptr, 0) < 0 && errno == EINTR) { }
+    // Inside a driver that hangs, nothing kills it. What is left of it then goes with this program.
+    const QDeadlineTimer deadline(kEndTimeoutMs);
+    while (::waitpid(m_process, nullptr, WNOHANG) == 0 && !deadline.hasExpired()) {
+        ::usleep(kLookEveryUs);
+    }
 }
 
 std::optional<QByteArray> CopiedProcess::result(int timeoutMs)

@@ -8,6 +8,7 @@ const accent = "#F25017";
 const paper = "#ffffff";
 const hairline = "#d5d7db";
 const separator = "#cccccc";
+const separatorShade = "#33000000"; // the same on white
 
 const buttonHover = "#dcdcdc";
 const buttonPressed = "#aba9b2";

@@ -4,7 +4,6 @@ import os
 import time
 
 
-
 def processor_ticks(pid):
     """Processor time used so far, in clock ticks."""
     with open(f"/proc/{pid}/stat", encoding="utf-8") as stat:

@@ -69,17 +69,20 @@ void OverlaySurface::setSeeThrough(bool seeThrough)
     emit seeThroughChanged();
 }
 
+QRect OverlaySurface::reachableArea() const
+{
+    if (!m_seeThrough || !reachable())
+        return {};
+    return reachable()().translated(-m_window->position());
+}
+
 void OverlaySurface::leaveReachableOpen()
 {
     if (!m_window || !m_window->handle())
         return;
-    QRect open;
-    if (m_seeThrough && reachable())
-        open = reachable()().translated(-m_window->position());
-    if (open == m_open)
-        return;
-    m_open = open;
-    m_backend->leaveOpen(open);
+    const QRect open = reachableArea();
+    if (std::exchange(m_open, open) != open)
+        m_backend->leaveOpen(open);
 }
 
 void OverlaySurface::watchScreens()
@@ -236,8 +239,9 @@ void OverlaySurface::followPointer(const QEvent *event)
         m_penErases = false;
         return;
     case QEvent::Expose:
-        m_open = {}; // a window manager that was just taking the window in may have missed it
-        leaveReachableOpen();
+        // A window manager that was just taking the window in may have missed what it was told.
+        m_open = reachableArea();
+        m_backend->leaveOpen(m_open);
         return;
     case QEvent::Enter: // the pointer was elsewhere, so no gesture of the overlay's is under way
         m_buttonDown = false;

@@ -24,8 +24,10 @@ class OverlaySurface : public QObject
     Q_PROPERTY(QWindow *anchor READ anchor WRITE setAnchor NOTIFY anchorChanged FINAL)
     /// Whether clicks and keys go to what lies beneath. While a button is held down on the overlay
     /// the gesture is finished first: the desktop would see its release without the press.
-    Q_PROPERTY(bool passThrough READ passThrough WRITE setPassThrough NOTIFY passThroughChanged
-            FINAL) /// Whether the desktop is seen through the window.
+    Q_PROPERTY(
+        bool passThrough READ passThrough WRITE setPassThrough NOTIFY passThroughChanged FINAL)
+
+    /// Whether the desktop is seen through the window.
     Q_PROPERTY(bool seeThrough READ seeThrough WRITE setSeeThrough NOTIFY seeThroughChanged FINAL)
 
     /// Whether the gesture under way, or the last one, is made with the eraser end of a tablet pen.
@@ -77,6 +79,8 @@ private:
     void setEraserTip(bool eraserTip);
     void stackOther(QWindow *other);
     void applyPassThrough();
+    [[nodiscard]] QRect reachableArea() const;
+    /// Tells the backend when the area has changed.
     void leaveReachableOpen();
 
     QPointer<QWindow> m_window;

@@ -13,8 +13,9 @@ namespace
 constexpr int kRepaintMs = 150; // what the windows beneath get for painting the uncovered areas
 constexpr int kLeastAlpha = 96; // fainter edges would be a dark rim; highlighters have more
 
-/// A region outside of every window: a window cut to it is mapped and yet shows nothing.
-const QRegion kNowhere(-1, -1, 1, 1);
+// Regions outside of every window: a window cut to one is mapped and yet shows nothing.
+const QRegion kHiddenForPicture(-1, -1, 1, 1);
+const QRegion kEmptyOutline(-2, -2, 1, 1);
 
 /// The pixels of `picture` that show something, as horizontal runs.
 QRegion visibleRegion(const QImage &picture)
@@ -61,10 +62,12 @@ QRegion shapeOf(QQuickItem *item)
     return shape;
 }
 
-/// Gone before long by itself, and usually when another window opens.
+/// Gone before long by itself, and usually when another window opens: tips, flyouts and notices,
+/// but not the windows of settings, which take the keyboard.
 bool isFleeting(const QWindow *window)
 {
-    return window->type() == Qt::Tool || window->type() == Qt::ToolTip
+    const bool takesKeys = !window->flags().testFlag(Qt::WindowDoesNotAcceptFocus);
+    return (window->type() == Qt::Tool && !takesKeys) || window->type() == Qt::ToolTip
         || window->type() == Qt::Popup;
 }
 } // namespace
@@ -90,10 +93,10 @@ void ScreenGround::freeze()
     m_state = State::Freezing;
     const auto windows = QGuiApplication::topLevelWindows();
     for (QWindow *own : windows) {
-        if (!mustHide(own))
+        if (!mustHide(own) || own->mask() == kHiddenForPicture) // another ground brings it back
             continue;
         m_hidden.append({ own, own->mask() });
-        own->setMask(kNowhere);
+        own->setMask(kHiddenForPicture);
     }
     m_repaintTimer.start();
 }
@@ -142,21 +145,24 @@ void ScreenGround::leaveState()
 void ScreenGround::showHiddenWindows()
 {
     for (const auto &hidden : std::as_const(m_hidden)) {
-        if (hidden.window)
-            hidden.window->setMask(hidden.mask);
+        if (!hidden.window)
+            continue;
+        hidden.window->setMask(hidden.mask);
+        hidden.window->requestUpdate(); // its outline may have changed meanwhile
     }
     m_hidden.clear();
 }
 
 void ScreenGround::followOutline()
 {
-    if (m_state != State::Cut)
+    // Hidden for a picture that another ground takes, the window comes back by itself.
+    if (m_state != State::Cut || window()->mask() == kHiddenForPicture)
         return;
     QRegion shape;
     for (QQuickItem *item : std::as_const(m_outline))
         shape += shapeOf(item);
     if (shape.isEmpty()) // which would mean the whole window
-        shape = kNowhere;
+        shape = kEmptyOutline;
     if (shape != window()->mask())
         window()->setMask(shape);
 }

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Window
+import "../Theme.js" as Theme
 
 /// The grey line between two buttons. It stands in the middle of the gap and takes no room of its
 /// own, so that the last button ends above the palette's bottom edge.
@@ -17,6 +18,6 @@ Item {
         height: Math.max(1, Math.floor(Screen.devicePixelRatio)) / Screen.devicePixelRatio
         // The separators' grey, as a shade: of an opaque line between two pixels, the software renderer
         // leaves holes behind when the list is scrolled.
-        color: "#33000000"
+        color: Theme.separatorShade
     }
 }

@@ -247,6 +247,21 @@ class DrawingTest(OverlayTestCase):
         self.wait_for(look, what)
 
 
+class GraphicsProcessorTest(OverlayTestCase):
+    """As on a machine with a graphics processor: OpenGL, and frames painted by another thread."""
+
+    def test_marks_come_and_go(self):
+        self.start_drawing(env={"QSG_RHI_BACKEND": "opengl", "QSG_RENDER_LOOP": "threaded",
+                                "QSG_INFO": "1"})
+        self.program.wait_for_log("threaded render loop")
+        for y in (200, 330, 460):
+            self.desktop.pointer.drag([(200, y), (700, y + 40)])
+            self.wait_for_red(450, y + 20, "the stroke")
+        self.desktop.keyboard.tap("Ctrl+Z")
+        self.wait_for_desktop(450, 480, "the last stroke to go")
+        self.assertTrue(is_red(self.desktop.screen.pixel(450, 350)))
+
+
 class MonitorsTest(OverlayTestCase):
     desktop_options = {"size": (1800, 800),
                        "monitors": [(0, 0, 1000, 800), (1000, 0, 800, 800)]}

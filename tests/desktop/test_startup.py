@@ -25,6 +25,8 @@ class StartupTest(desktop.DesktopTestCase):
         self.assertEqual(rect.x + rect.width, self.desktop.size[0])
         self.assertTrue(palette.frameless)
         self.assertTrue(palette.on_top)
+        icon = palette.handle.get_full_property(self.desktop.display.get_atom("_NET_WM_ICON"), 0)
+        self.assertTrue(icon and len(icon.value) > 16 * 16)
         config = configparser.ConfigParser()
         config.read(os.path.join(self.app_folder, "config.ini"))
         self.assertEqual(config["APP"]["opengl"], "software")
