@@ -47,9 +47,11 @@ class ProgramEnded(RuntimeError):
 
 
 class Program:
-    """A started program. `scale`, `env` and `cwd` shape its start; arguments follow the name."""
+    """A started program. `scale`, `env` and `cwd` shape its start; arguments follow the name.
+    `finds_leaks` says whether memory that is lost at its end counts as a fault."""
 
-    def __init__(self, desktop, executable, arguments=(), scale=None, env=None, cwd=None):
+    def __init__(self, desktop, executable, arguments=(), scale=None, env=None, cwd=None,
+                 finds_leaks=True):
         self._desktop = desktop
         self.arguments = list(arguments)
         number = len(desktop.programs) + 1
@@ -61,16 +63,16 @@ class Program:
         variables["QT_MESSAGE_PATTERN"] = (
             f"%{{if-warning}}{WARNING}%{{endif}}%{{if-critical}}{WARNING}%{{endif}}"
             "%{if-category}%{category}: %{endif}%{message}")
-        variables.update(self._sanitizer_options())
+        variables.update(self._sanitizer_options(finds_leaks))
         with open(self._log_path, "wb") as log:
             self._popen = desktop.guard.start(
                 [executable, *self.arguments], cwd=cwd or desktop.home,
                 env=desktop.env(**variables), stdout=log, stderr=log)
 
-    def _sanitizer_options(self):
+    def _sanitizer_options(self, finds_leaks):
         common = f"log_path={self._reports}:exitcode={SANITIZER_EXIT_CODE}"
         return {
-            "ASAN_OPTIONS": f"{common}:detect_leaks=1",
+            "ASAN_OPTIONS": f"{common}:detect_leaks={int(finds_leaks)}",
             "UBSAN_OPTIONS": f"{common}:print_stacktrace=1",
             "LSAN_OPTIONS": f"suppressions={SUPPRESSIONS}:print_suppressions=0",
         }
