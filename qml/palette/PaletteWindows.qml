@@ -58,6 +58,11 @@ Item {
         palette.onHotKeyChanged();
         window.x = palette.x + (palette.rightMargin <= 350 ? -360 : 60);
         window.coveredRight = Qt.binding(() => coveredBy(palette, window));
+        // A window manager raises what it gives the keyboard to: the palette comes after that.
+        window.activeChanged.connect(() => {
+            if (window.active)
+                palette.raise();
+        });
         window.raise();
         palette.raise();
     }

@@ -69,7 +69,7 @@ PanelWindow {
 
     title: qsTr("设置")
     width: 400
-    height: 600
+    height: Math.min(600, Screen.height) // its content scrolls
     contentMargin: 15
     closeMargin: 5
     visible: true

@@ -148,6 +148,12 @@ class LowScreenTest(desktop.DesktopTestCase):
         palette.click("draw")
         self.wait_for(lambda: palette.overlay, "the overlay")
         palette.scroll_to_end()
+        palette.choose("menu", "settings")
+        settings = program.window(title="设置")
+        self.wait_for(lambda: (settings.geometry.y, settings.geometry.height) == (0, 800),
+                      "the settings to fit the screen")
+        self.wait_for(lambda: self.desktop.windows.at(*palette.point("menu")) == palette.window,
+                      "the palette to stand above its settings")
         palette.choose("menu", "quit")
         self.assertEqual(program.wait_for_end(), 0)
 
