@@ -115,8 +115,9 @@ void selectAt1000(benchmark::State &state)
     }
 }
 
-/// The step that meets the first mark of a gesture and removes it.
-void eraserFirstStep1000(benchmark::State &state)
+/// One step of an eraser's gesture: the first, which removes the mark beneath it, or one on from
+/// it.
+void eraserSteps(benchmark::State &state, bool first)
 {
     const auto canvas = boards::withStrokes(1000);
     canvas->setIsEraserMode(true);
@@ -125,30 +126,11 @@ void eraserFirstStep1000(benchmark::State &state)
         state.PauseTiming();
         i = (i + 71) % 1000;
         canvas->beginPaint(middleOf(i));
+        if (!first)
+            canvas->movePaint(middleOf(i), false);
         boards::showFrame(*canvas);
         state.ResumeTiming();
-        canvas->movePaint(middleOf(i), false);
-        boards::showFrame(*canvas);
-        state.PauseTiming();
-        canvas->undo();
-        boards::showFrame(*canvas);
-        state.ResumeTiming();
-    }
-}
-
-void eraserStep1000(benchmark::State &state)
-{
-    const auto canvas = boards::withStrokes(1000);
-    canvas->setIsEraserMode(true);
-    int i = 0;
-    while (state.KeepRunning()) {
-        state.PauseTiming();
-        i = (i + 71) % 1000;
-        canvas->beginPaint(middleOf(i));
-        canvas->movePaint(middleOf(i), false);
-        boards::showFrame(*canvas);
-        state.ResumeTiming();
-        canvas->movePaint(middleOf(i) + QPoint(9, 5), false);
+        canvas->movePaint(first ? middleOf(i) : middleOf(i) + QPoint(9, 5), false);
         boards::showFrame(*canvas);
         state.PauseTiming();
         while (canvas->document().history.undoEntries().back().kind != HistoryEntry::Add)
@@ -156,6 +138,16 @@ void eraserStep1000(benchmark::State &state)
         boards::showFrame(*canvas);
         state.ResumeTiming();
     }
+}
+
+void eraserFirstStep1000(benchmark::State &state)
+{
+    eraserSteps(state, true);
+}
+
+void eraserStep1000(benchmark::State &state)
+{
+    eraserSteps(state, false);
 }
 
 void undo1000(benchmark::State &state)

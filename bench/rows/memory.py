@@ -1,13 +1,12 @@
 """Proportional memory, beside a bare window."""
 
 import os
-import statistics
 
 import desktop
 
 from .bareprograms import DEFAULT_BACKEND, SOFTWARE_BACKEND, start_bare_window, start_palette
 from .processinfo import proportional_memory_mb, wait_until_quiet
-from .row import Row
+from .row import Row, medians
 from .stages import FULL_HD
 
 ROUNDS = 3
@@ -35,14 +34,11 @@ def rows(stages, notes):
         desktop.Palette(place, program).start_drawing()
         found["palette and overlay"].append(settled_memory(program))
         program.stop()
-    medians = {name: statistics.median(mb) for name, mb in found.items()}
-    for name, mb in found.items():
-        notes.append(f"memory of {name}: median {medians[name]:.1f} MB, "
-                     f"{min(mb):.1f} to {max(mb):.1f} MB")
+    middle = medians(found, "memory of", "MB", notes)
     yield Row("proportional memory, palette alone, against a bare window", 1.5,
-              medians["palette alone"] / medians["bare window"], "x")
+              middle["palette alone"] / middle["bare window"], "x")
     yield Row("... more with the overlay at 1920x1080", 50,
-              medians["palette and overlay"] - medians["palette alone"], "MB")
+              middle["palette and overlay"] - middle["palette alone"], "MB")
 
 
 def settled_memory(program):

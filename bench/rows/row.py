@@ -1,5 +1,6 @@
 """One line of the table: what was wanted and what was measured."""
 
+import statistics
 from dataclasses import dataclass
 
 
@@ -32,6 +33,15 @@ class Row:
     def _text(self, value):
         digits = 0 if float(value).is_integer() else 2
         return f"{value:.{digits}f} {self.unit}".strip()
+
+
+def medians(figures, what, unit, notes):
+    """The median of each name's figures; the notes tell what they were."""
+    found = {name: statistics.median(values) for name, values in figures.items()}
+    for name, values in figures.items():
+        notes.append(f"{what} {name}: median {found[name]:.1f} {unit}, {min(values):.1f} to "
+                     f"{max(values):.1f} {unit}, {len(values)} times")
+    return found
 
 
 def print_table(rows, out):

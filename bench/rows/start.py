@@ -1,12 +1,11 @@
 """From the start of the process to its first whole picture, beside a bare window."""
 
-import statistics
 import time
 
 from PIL import ImageChops
 
 from .bareprograms import DEFAULT_BACKEND, SOFTWARE_BACKEND, start_bare_window, start_palette
-from .row import Row
+from .row import Row, medians
 from .stages import FULL_HD
 
 ROUNDS = 15
@@ -28,12 +27,9 @@ def rows(stages, notes):
     for _ in range(ROUNDS):
         for name, start in starts.items():
             taken[name].append(time_start(place, start, *pictures[name]))
-    medians = {name: statistics.median(ms) for name, ms in taken.items()}
-    for name, ms in taken.items():
-        notes.append(f"start to {name}: median {medians[name]:.0f} ms, "
-                     f"{min(ms):.0f} to {max(ms):.0f} ms, {len(ms)} starts")
+    middle = medians(taken, "start to", "ms", notes)
     yield Row("process start to palette, against a bare window", 1.8,
-              medians["the palette"] / medians["bare window"], "x")
+              middle["the palette"] / middle["bare window"], "x")
 
 
 def final_picture(place, start):
