@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Window
-import "../Theme.js" as Theme
+import "Theme.js" as Theme
 
 /// The grey line between two buttons. It stands in the middle of the gap and takes no room of its
 /// own, so that the last button ends above the palette's bottom edge.
