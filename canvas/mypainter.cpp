@@ -319,6 +319,12 @@ void MyPainter::itemChange(ItemChange change, const ItemChangeData &data)
         forceUpdateImage();
 }
 
+bool MyPainter::isTextureProvider() const
+{
+    // The painted item would promise the texture of a node that is not there.
+    return QQuickItem::isTextureProvider(); // NOLINT(bugprone-parent-virtual-call)
+}
+
 QSGNode *MyPainter::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
 {
     auto *pictureNode = static_cast<PictureNode *>(node);

@@ -77,10 +77,7 @@ public:
     /// but the picture: neither the painted item's fill colour nor its texture.
     void paint(QPainter *painter) override;
     /// Not by itself: there is no texture of the whole picture.
-    [[nodiscard]] bool isTextureProvider() const override
-    {
-        return QQuickItem::isTextureProvider();
-    }
+    [[nodiscard]] bool isTextureProvider() const override;
 
     /// For checks of what the canvas holds; both stay the canvas's own.
     [[nodiscard]] const CanvasDocument &document() const { return m_document; }
