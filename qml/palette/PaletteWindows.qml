@@ -58,11 +58,13 @@ Item {
         palette.onHotKeyChanged();
         window.x = palette.x + (palette.rightMargin <= 350 ? -360 : 60);
         window.coveredRight = Qt.binding(() => coveredBy(palette, window));
-        // A window manager raises what it gives the keyboard to: the palette comes after that.
-        window.activeChanged.connect(() => {
-            if (window.active)
-                palette.raise();
-        });
+        // A window manager raises what it gives the keyboard to: the palette comes after that, once,
+        // for later it would rise above the settings' own dialogs.
+        const raisePalette = () => {
+            window.activeChanged.disconnect(raisePalette);
+            palette.raise();
+        };
+        window.activeChanged.connect(raisePalette);
         window.raise();
         palette.raise();
     }
