@@ -17,9 +17,9 @@ KINDS = {"canvas": canvas, "start": start, "memory": memory, "latency": latency,
 
 def arguments():
     parser = argparse.ArgumentParser(description=__doc__)
-    tools = os.path.join(REPOSITORY, "build", "release", "bin")
+    tools = os.path.join(REPOSITORY, "build", "bench", "bin")
     parser.add_argument("--program", default=os.path.join(tools, "dravelin"),
-                        help="the program to measure (default: the release build's)")
+                        help="the program to measure (default: the bench build's)")
     parser.add_argument("--tools", default=tools, help="folder of the benchmark's own programs")
     parser.add_argument("--only", default=list(KINDS), type=lambda text: text.split(","),
                         help="kinds of rows, such as latency,idle (default: all)")

@@ -7,6 +7,15 @@ set(DRAVELIN_QML_IMPORT_ARGS
     -I "${DRAVELIN_QML_MODULES_DIR}" -I "${CMAKE_BINARY_DIR}/qml"
     -I "${QT6_INSTALL_PREFIX}/${QT6_INSTALL_QML}")
 
+# dravelin_compile_in_batches(target sources...): compiles these sources of the target many at a
+# time, and each of the others by itself.
+function(dravelin_compile_in_batches target)
+    get_target_property(others ${target} SOURCES)
+    list(REMOVE_ITEM others ${ARGN})
+    set_source_files_properties(${others} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 16)
+endfunction()
+
 # dravelin_add_qml_documents(target DOCUMENTS files...): compiles the documents ahead of time and
 # places each at the resource root under its bare name, whatever folder it lies in. Defines the
 # targets `target` (object library) and `target_qmllint`.
@@ -52,6 +61,9 @@ function(dravelin_add_qml_documents target)
 
     add_library(${target} OBJECT ${sources} "${loader}" ${resources})
     set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    # What is generated from a document is small beside the headers that it includes, and stands in
+    # a namespace of its own.
+    dravelin_compile_in_batches(${target} ${sources})
     target_link_libraries(${target} PUBLIC Qt6::Qml)
 
     add_custom_target(${target}_qmllint

@@ -30,6 +30,7 @@ function(dravelin_add_test name)
     target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Test dravelin_options)
     target_compile_definitions(${name} PRIVATE
         DRAVELIN_TEST_DIR="${CMAKE_CURRENT_SOURCE_DIR}")
+    dravelin_use_common_headers(${name})
 
     dravelin_add_run(${name} COMMAND ${name} TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT ${ARG_ENVIRONMENT})
 endfunction()

@@ -31,6 +31,9 @@ def compile_commands(build):
 
 
 def words_and_output(entry):
-    """The words of a compile command, and where "-o" stands among them."""
+    """The words of a compile command without the precompiled headers, so that a source has to
+    include all that it uses, and where "-o" stands among them."""
     words = shlex.split(entry["command"])
+    for position in reversed([at for at, word in enumerate(words) if word == "-include"]):
+        del words[position:position + 2]
     return words, words.index("-o")

@@ -8,8 +8,10 @@ import argparse
 import concurrent.futures
 import functools
 import hashlib
+import json
 import os
 import re
+import shlex
 import subprocess
 import sys
 
@@ -55,9 +57,24 @@ def fingerprint(entry, read, build, rules):
     return digest.hexdigest()
 
 
-def analyse(path, build):
+def write_commands(build):
+    """Puts the compile commands, without the precompiled headers, where the tool looks for them;
+    returns that folder."""
+    entries = []
+    for path, entry in sources.compile_commands(build).items():
+        words, _ = sources.words_and_output(entry)
+        entries.append({"directory": entry["directory"], "file": os.path.join(sources.ROOT, path),
+                        "command": shlex.join(words)})
+    folder = os.path.join(build, "tidy")
+    os.makedirs(folder, exist_ok=True)
+    with open(os.path.join(folder, "compile_commands.json"), "w", encoding="utf-8") as file:
+        json.dump(entries, file)
+    return folder
+
+
+def analyse(path, commands):
     """The findings in one source, or an empty text."""
-    done = subprocess.run([TOOL, "-p", build, "--quiet", f"--header-filter={HEADERS}",
+    done = subprocess.run([TOOL, "-p", commands, "--quiet", f"--header-filter={HEADERS}",
                            os.path.join(sources.ROOT, path)],
                           stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
     return "" if done.returncode == 0 else f"{path}:\n{done.stdout or done.stderr}"
@@ -91,12 +108,13 @@ def main():
         rules += file.read()
     os.makedirs(PASSED, exist_ok=True)
 
+    commands = write_commands(build)
     waiting = pending(build, rules)
     print(f"{len(waiting)} of {len(sources.compile_commands(build))} sources to analyse",
           flush=True)
     failed = 0
     with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
-        findings = pool.map(lambda item: analyse(item[0], build), waiting)
+        findings = pool.map(lambda item: analyse(item[0], commands), waiting)
         for (_, mark), text in zip(waiting, findings):
             if text:
                 failed += 1
