@@ -1,24 +1,7 @@
 #include "capture/recorderreport.h"
 
 #include "recorder/recorderprotocol.h"
-
-#include <QFile>
-
-namespace
-{
-
-/// Moves every complete line from `pending` to the caller, one at a time.
-template <typename Consumer> void takeLines(QByteArray &pending, Consumer consume)
-{
-    for (qsizetype end = pending.indexOf('\n'); end >= 0; end = pending.indexOf('\n')) {
-        const QString line = QString::fromUtf8(pending.left(end)).trimmed();
-        pending.remove(0, end + 1);
-        if (!line.isEmpty())
-            consume(line);
-    }
-}
-
-} // namespace
+#include "recorder/videocontent.h"
 
 RecorderReport::RecorderReport(QProcess *process, QObject *parent)
     : QObject(parent), m_process(process)
@@ -30,26 +13,30 @@ RecorderReport::RecorderReport(QProcess *process, QObject *parent)
 
 void RecorderReport::clear()
 {
-    m_pendingOutput.clear();
-    m_pendingErrors.clear();
+    m_output.takeRest();
+    m_errors.takeRest();
     m_unexplained.clear();
     m_errorTold = false;
-    setFilePath(QString());
+    m_filePath.clear();
+}
+
+QString RecorderReport::savedFile() const
+{
+    return VideoContent::holdsPictures(m_filePath) ? m_filePath : QString();
 }
 
 void RecorderReport::readOutput()
 {
-    m_pendingOutput += m_process->readAllStandardOutput();
-    takeLines(m_pendingOutput, [this](const QString &line) {
+    m_output.add(m_process->readAllStandardOutput(), [this](const QString &line) {
         if (line.startsWith(RecorderProtocol::kFilePrefix))
-            setFilePath(line.mid(RecorderProtocol::kFilePrefix.size()));
+            m_filePath = line.mid(RecorderProtocol::kFilePrefix.size());
     });
 }
 
 void RecorderReport::readErrors()
 {
-    m_pendingErrors += m_process->readAllStandardError();
-    takeLines(m_pendingErrors, [this](const QString &line) { takeErrorLine(line); });
+    m_errors.add(
+        m_process->readAllStandardError(), [this](const QString &line) { takeErrorLine(line); });
 }
 
 void RecorderReport::takeErrorLine(const QString &line)
@@ -69,25 +56,17 @@ void RecorderReport::takeErrorLine(const QString &line)
         return;
     }
     m_errorTold = true;
-    // The recorder removes a file that has come to nothing.
-    if (!QFile::exists(m_filePath))
-        setFilePath(QString());
     emit error(code, text);
 }
 
 /// A recorder that fails without a word meant for us, say because a library is missing, has left
-/// the reason in somebody else's words: better those than silence.
+/// the reason in somebody else's words: better those than silence. A crash is told elsewhere.
 void RecorderReport::onProcessFinished(int exitCode, QProcess::ExitStatus exitStatus)
 {
-    const bool failed = exitStatus == QProcess::CrashExit || exitCode != 0;
-    if (failed && !m_errorTold && !m_unexplained.isEmpty())
+    const QString rest = m_errors.takeRest();
+    if (!rest.isEmpty())
+        takeErrorLine(rest);
+    const bool failed = exitStatus == QProcess::NormalExit && exitCode != 0;
+    if (failed && !m_errorTold)
         emit error(QString(), m_unexplained);
-}
-
-void RecorderReport::setFilePath(const QString &path)
-{
-    if (m_filePath == path)
-        return;
-    m_filePath = path;
-    emit filePathChanged();
 }

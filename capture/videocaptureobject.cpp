@@ -69,6 +69,7 @@ bool VideoCaptureObject::startRecording(
         return false;
     }
     m_killTimer->stop();
+    m_report->clear(); // before anything can fail
     m_outputPath = outputPath;
     if (!ensureOutputDirectory())
         return false;
@@ -103,7 +104,6 @@ bool VideoCaptureObject::launch(const QRect &area, const QString &audioOption)
         audioOption,
     };
     qDebug() << CaptureTexts::kStarting << program << arguments;
-    m_report->clear();
     m_process->start(program, arguments);
     if (m_process->waitForStarted(kStartTimeoutMs))
         return true;

@@ -13,6 +13,10 @@ struct EncoderFailure {
     static EncoderFailure fromWords(const QByteArray &words, const QString &outputPath);
     /// It had to be killed, as it did not finish in time.
     static EncoderFailure hung(const QString &outputPath);
-    /// Whether the words tell of a full disk, which FFmpeg does not always end with.
+    /// Whether the words tell of something that could not be written. FFmpeg, asked to end, ends
+    /// all the same as if nothing had happened.
+    static bool tellsFailedWrite(const QByteArray &words);
+
+private:
     static bool tellsFullDisk(const QByteArray &words);
 };

@@ -14,6 +14,11 @@ constexpr char kVideoEncoder[] = "-c:v libx264 -preset %1 -tune zerolatency -crf
 /// spending more of the disk.
 constexpr int kManyPixels = 2560 * 1600;
 
+/// Players that are not told take a small picture for BT.601 and a large one for BT.709; so every
+/// picture is made BT.709, the usual one of screens, and says so.
+constexpr char kColours[] = "-colorspace bt709 -color_primaries bt709 -color_trc bt709"
+                            " -color_range tv";
+
 constexpr char kSoundEncoder[] = "-c:a aac -b:a 160k";
 
 /// Fragments of half a second, each flushed to disk: the file plays however the recording ends.
@@ -57,7 +62,7 @@ QStringList FfmpegCommand::arguments() const
         list << words(kSoundQueue) << input.options << QStringLiteral("-i") << input.source;
     }
     list << QStringLiteral("-filter_complex") << filterGraph() << words("-map [v]")
-         << words(QString::fromLatin1(kVideoEncoder).arg(preset()));
+         << words(QString::fromLatin1(kVideoEncoder).arg(preset())) << words(kColours);
     if (!sound.isEmpty())
         list << words("-map [a]") << words(kSoundEncoder);
     return list << words(kContainer) << outputPath;
@@ -83,11 +88,15 @@ QString FfmpegCommand::preset() const
 }
 
 /// Video from the first input, whatever follows mixed into one sound track. Gaps in time become
-/// repeated pictures and silence, from the recording's zero on.
+/// repeated pictures and silence, from the recording's zero on. A picture shows what happened in the
+/// thirtieth of a second before it was taken; rounded down, its time is right on average, and sound
+/// is never more than one picture away from it.
 QString FfmpegCommand::filterGraph() const
 {
     QString graph =
-        QStringLiteral("[0:v]fps=%1:start_time=0,format=yuv420p[v]").arg(kFramesPerSecond);
+        QStringLiteral("[0:v]fps=%1:start_time=0:round=down,"
+                                   "scale=out_color_matrix=bt709:out_range=tv,format=yuv420p[v]")
+                        .arg(kFramesPerSecond);
     if (sound.isEmpty())
         return graph;
     QString labels;

@@ -4,6 +4,12 @@
 
 #include <pulse/pulseaudio.h>
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+using std::chrono::microseconds;
+
 namespace
 {
 
@@ -12,6 +18,11 @@ constexpr char kClientName[] = "Dravelin";
 constexpr int kAnswerTimeoutMs = 1500;
 constexpr uint32_t kFragmentMs = 20;
 constexpr pa_sample_spec kFormat{ PA_SAMPLE_S16NE, SoundMixer::kRate, SoundMixer::kChannels };
+
+/// How often a stream's timing is asked for, and how many answers are weighed: a busy server gives
+/// a wrong one now and then, and a device that changes its pace must be followed at once.
+constexpr auto kTimingInterval = std::chrono::milliseconds(100);
+constexpr size_t kTimingAnswers = 5;
 
 struct Defaults {
     QByteArray source;
@@ -26,13 +37,15 @@ PulseStream::PulseStream(pa_context *context, const QByteArray &source)
     pa_buffer_attr buffer{};
     buffer.maxlength = UINT32_MAX;
     buffer.fragsize = static_cast<uint32_t>(pa_usec_to_bytes(kFragmentMs * 1000ULL, &kFormat));
-    const auto flags = static_cast<pa_stream_flags_t>(
-        PA_STREAM_ADJUST_LATENCY | PA_STREAM_AUTO_TIMING_UPDATE | PA_STREAM_INTERPOLATE_TIMING);
-    pa_stream_connect_record(m_stream, source.constData(), &buffer, flags);
+    pa_stream_connect_record(m_stream, source.constData(), &buffer, PA_STREAM_ADJUST_LATENCY);
 }
 
 PulseStream::~PulseStream()
 {
+    if (m_question) {
+        pa_operation_cancel(m_question);
+        pa_operation_unref(m_question);
+    }
     pa_stream_disconnect(m_stream);
     pa_stream_unref(m_stream);
 }
@@ -46,28 +59,63 @@ void PulseStream::readAll(const Consumer &consume)
 {
     if (pa_stream_get_state(m_stream) != PA_STREAM_READY)
         return;
+    askForTiming();
+    if (!m_beginning)
+        return;
     while (const size_t pending = pa_stream_readable_size(m_stream)) {
         const void *data = nullptr;
         size_t bytes = 0;
         if (pending == static_cast<size_t>(-1) || pa_stream_peek(m_stream, &data, &bytes) < 0
             || bytes == 0)
             return;
+        const auto index = static_cast<uint64_t>(pa_stream_get_timing_info(m_stream)->read_index);
+        const microseconds since(pa_bytes_to_usec(index, &kFormat));
         if (data) // else a hole, which is silence
-            consume(
-                ageUs(pending), { static_cast<const int16_t *>(data), bytes / sizeof(int16_t) });
+            consume(*m_beginning + since,
+                { static_cast<const int16_t *>(data), bytes / sizeof(int16_t) });
         pa_stream_drop(m_stream);
     }
 }
 
-int64_t PulseStream::ageUs(size_t pendingBytes) const
+void PulseStream::askForTiming()
 {
-    pa_usec_t latency = 0;
-    int isNegative = 0;
-    if (pa_stream_get_latency(m_stream, &latency, &isNegative) < 0) {
-        // No timing from the server yet: the newest sample is assumed to be new.
-        return static_cast<int64_t>(pa_bytes_to_usec(pendingBytes, &kFormat));
-    }
-    return isNegative ? -static_cast<int64_t>(latency) : static_cast<int64_t>(latency);
+    const Clock::time_point now = Clock::now();
+    if (m_question || now - m_asked < kTimingInterval)
+        return;
+    m_asked = now;
+    m_question = pa_stream_update_timing_info(
+        m_stream,
+        [](pa_stream *, int succeeded, void *self) {
+            auto *stream = static_cast<PulseStream *>(self);
+            pa_operation_unref(std::exchange(stream->m_question, nullptr));
+            if (succeeded)
+                stream->takeTiming();
+        },
+        this);
+}
+
+/// The library's own estimate of a latency is smoothed over seconds, and wrong until then whenever
+/// another program has made the output play far ahead. The server's plain answers are exact.
+void PulseStream::takeTiming()
+{
+    const pa_timing_info *info = pa_stream_get_timing_info(m_stream);
+    if (!info || info->write_index_corrupt || info->read_index_corrupt)
+        return;
+    const Clock::time_point now = Clock::now();
+    const Clock::time_point answered = now - microseconds(pa_timeval_age(&info->timestamp));
+    // What was in the stream then, what the device had heard beyond it, and how far ahead of its
+    // sounding an output's monitor gets it.
+    const auto streamed = static_cast<int64_t>(
+        pa_bytes_to_usec(static_cast<uint64_t>(info->write_index), &kFormat));
+    const microseconds heard(streamed + static_cast<int64_t>(info->source_usec)
+        - static_cast<int64_t>(info->sink_usec));
+    m_beginnings.push_back(answered - heard);
+    if (m_beginnings.size() > kTimingAnswers)
+        m_beginnings.pop_front();
+    std::vector<Clock::time_point> sorted(m_beginnings.begin(), m_beginnings.end());
+    const auto middle = sorted.begin() + static_cast<ptrdiff_t>(sorted.size() / 2);
+    std::nth_element(sorted.begin(), middle, sorted.end());
+    m_beginning = *middle;
 }
 
 PulseServer::PulseServer()

@@ -4,9 +4,12 @@
 #include <QDeadlineTimer>
 #include <QString>
 
+#include <chrono>
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 
 struct pa_context;
@@ -18,8 +21,10 @@ struct pa_stream;
 class PulseStream
 {
 public:
-    /// Takes samples that sounded `ageUs` microseconds ago, counted at their first frame.
-    using Consumer = std::function<void(int64_t ageUs, std::span<const int16_t> samples)>;
+    using Clock = std::chrono::steady_clock;
+    /// Takes samples and the moment at which their first frame sounded, or is going to: what an
+    /// output plays can be had before it is heard.
+    using Consumer = std::function<void(Clock::time_point sounded, std::span<const int16_t> samples)>;
 
     PulseStream(pa_context *context, const QByteArray &source);
     ~PulseStream();
@@ -28,13 +33,18 @@ public:
 
     /// True once the device or the server is gone.
     bool hasFailed() const;
-    /// Hands out everything that has arrived.
+    /// Hands out everything that has arrived, once it is known when it sounded.
     void readAll(const Consumer &consume);
 
 private:
-    int64_t ageUs(size_t pendingBytes) const;
+    void askForTiming();
+    void takeTiming();
 
     pa_stream *m_stream;
+    pa_operation *m_question = nullptr; ///< a timing question without an answer
+    Clock::time_point m_asked;
+    std::deque<Clock::time_point> m_beginnings; ///< the latest estimates of `m_beginning`
+    std::optional<Clock::time_point> m_beginning; ///< when the stream's very first frame sounded
 };
 
 /// A connection to the user's sound server, PulseAudio or one that speaks its protocol.

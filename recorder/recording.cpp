@@ -10,6 +10,8 @@
 #include <QDateTime>
 #include <QStandardPaths>
 
+#include <chrono>
+
 using namespace RecorderProtocol;
 
 namespace
@@ -19,6 +21,8 @@ namespace
 constexpr int kFinishTimeoutMs = 3000;
 /// Lets FFmpeg take in the last sound, as it drops what waits when it is told to end.
 constexpr int kSoundTailMs = 150;
+/// The last of what FFmpeg says is kept; it may complain for hours.
+constexpr qsizetype kKeptWords = 64 * 1024;
 /// What FFmpeg ends with after a terminate signal.
 constexpr int kTerminatedExitCode = 255;
 
@@ -31,6 +35,7 @@ Recording::Recording(QObject *parent) : QObject(parent)
     connect(&m_patience, &QTimer::timeout, this, &Recording::giveUp);
     connect(&m_encoder, &QProcess::errorOccurred, this, &Recording::onEncoderError);
     connect(&m_encoder, &QProcess::finished, this, &Recording::onEncoderFinished);
+    connect(&m_encoder, &QProcess::readyReadStandardError, this, &Recording::keepWords);
 }
 
 bool Recording::start(const RecordingRequest &request)
@@ -72,7 +77,8 @@ bool Recording::launch(const Desktop &desktop, const RecordingRequest &request, 
         command.sound = m_sound->inputs();
         m_sound->begin(&m_encoder);
     }
-    command.epochSeconds = static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0;
+    command.epochSeconds =
+        std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count();
     ChildControl::prepare(&m_encoder);
     m_encoder.start(QStringLiteral("ffmpeg"), command.arguments());
     if (!m_encoder.waitForStarted())
@@ -113,30 +119,35 @@ void Recording::onEncoderError(QProcess::ProcessError error)
         QStringLiteral("FFmpeg cannot be started: %1.").arg(m_encoder.errorString()));
 }
 
+void Recording::keepWords()
+{
+    m_words = (m_words + m_encoder.readAllStandardError()).right(kKeptWords);
+}
+
 void Recording::onEncoderFinished(int exitCode, QProcess::ExitStatus status)
 {
     m_patience.stop();
     if (m_sound)
         m_sound->end();
-    const QByteArray words = m_encoder.readAllStandardError();
+    keepWords();
     const bool endedWell = status == QProcess::NormalExit
         && (exitCode == 0 || exitCode == kTerminatedExitCode)
-        && !EncoderFailure::tellsFullDisk(words);
+        && !EncoderFailure::tellsFailedWrite(m_words);
     const bool succeeded = m_stopRequested && endedWell && !m_file.isEmpty();
-    const EncoderFailure failure = succeeded ? EncoderFailure() : failureOf(words);
+    const EncoderFailure failure = succeeded ? EncoderFailure() : failureOf();
     m_file.discardIfEmpty(); // first, as whoever hears of the failure looks for the file
     if (!succeeded)
         Notes::error(failure.code, failure.text);
     emit finished(succeeded);
 }
 
-EncoderFailure Recording::failureOf(const QByteArray &words) const
+EncoderFailure Recording::failureOf() const
 {
     if (m_gaveUp)
         return EncoderFailure::hung(m_file.path());
     // A request that comes this early can hit FFmpeg before it knows how to answer.
-    if (m_stopRequested && words.isEmpty() && m_file.isEmpty())
+    if (m_stopRequested && m_words.isEmpty() && m_file.isEmpty())
         return { Code::kNothingRecorded,
             QStringLiteral("The recording was stopped before it had begun.") };
-    return EncoderFailure::fromWords(words, m_file.path());
+    return EncoderFailure::fromWords(m_words, m_file.path());
 }

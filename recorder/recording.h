@@ -35,11 +35,13 @@ private:
     bool launch(const Desktop &desktop, const RecordingRequest &request, const QRect &areaPx);
     void endEncoder();
     void giveUp();
-    EncoderFailure failureOf(const QByteArray &words) const;
+    void keepWords();
+    EncoderFailure failureOf() const;
     void onEncoderError(QProcess::ProcessError error);
     void onEncoderFinished(int exitCode, QProcess::ExitStatus status);
 
     QProcess m_encoder;
+    QByteArray m_words; ///< the last of what FFmpeg wrote to standard error
     VideoFile m_file;
     std::unique_ptr<SoundCapture> m_sound;
     QTimer m_patience; ///< how long FFmpeg may take to finish

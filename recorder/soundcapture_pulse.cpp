@@ -5,7 +5,6 @@
 #include "recorder/recorderprotocol.h"
 #include "recorder/soundmixer.h"
 
-#include <QElapsedTimer>
 #include <QIODevice>
 #include <QTimer>
 
@@ -20,9 +19,12 @@ constexpr int kPumpIntervalMs = 20;
 /// How long the mix waits for sound on its way, so that what sounded together stays together.
 constexpr int64_t kMixDelayFrames = SoundMixer::kRate / 5;
 
-int64_t framesOf(int64_t microseconds)
+using Clock = PulseStream::Clock;
+
+int64_t framesOf(Clock::duration time)
 {
-    return microseconds * SoundMixer::kRate / 1'000'000;
+    using Frames = std::chrono::duration<int64_t, std::ratio<1, SoundMixer::kRate>>;
+    return std::chrono::floor<Frames>(time).count();
 }
 
 /// Records from the sound server and writes the mix, in step with the wall clock, to FFmpeg.
@@ -54,7 +56,7 @@ public:
     void begin(QIODevice *encoder) override
     {
         m_encoder = encoder;
-        m_sinceZero.start();
+        m_zero = Clock::now();
         m_pump.start();
     }
 
@@ -78,13 +80,12 @@ private:
     void write(int64_t delayFrames)
     {
         m_server->dispatch();
-        const int64_t nowUs = m_sinceZero.nsecsElapsed() / 1000;
         for (Source &source : m_sources)
-            read(source, nowUs);
-        m_encoder->write(m_mixer.takeUntil(framesOf(nowUs) - delayFrames));
+            read(source);
+        m_encoder->write(m_mixer.takeUntil(framesOf(Clock::now() - m_zero) - delayFrames));
     }
 
-    void read(Source &source, int64_t nowUs)
+    void read(Source &source)
     {
         if (!source.stream)
             return;
@@ -93,8 +94,8 @@ private:
             Notes::warning(source.code, source.lostText);
             return;
         }
-        source.stream->readAll([&](int64_t ageUs, std::span<const int16_t> samples) {
-            m_mixer.add(source.mixerSource, framesOf(nowUs - ageUs), samples);
+        source.stream->readAll([&](Clock::time_point sounded, std::span<const int16_t> samples) {
+            m_mixer.add(source.mixerSource, framesOf(sounded - m_zero), samples);
         });
     }
 
@@ -102,7 +103,7 @@ private:
     std::vector<Source> m_sources;
     SoundMixer m_mixer;
     QTimer m_pump;
-    QElapsedTimer m_sinceZero;
+    Clock::time_point m_zero;
     QIODevice *m_encoder = nullptr;
 };
 

@@ -1,5 +1,7 @@
 #include "recorder/videofile.h"
 
+#include "recorder/videocontent.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -9,8 +11,6 @@ namespace
 
 /// More files than this in one second mean that something else is wrong.
 constexpr int kMaxNumber = 1000;
-/// More than the header takes.
-constexpr qint64 kHeaderBytes = 16 * 1024;
 
 QString wantedPath(const QString &output, const QDateTime &now)
 {
@@ -58,9 +58,7 @@ bool VideoFile::reserve(const QString &output, const QDateTime &now, QString *re
 
 bool VideoFile::isEmpty() const
 {
-    QFile file(m_path);
-    // Pictures come in fragments, the first of which follows the header.
-    return !file.open(QIODevice::ReadOnly) || !file.read(kHeaderBytes).contains("moof");
+    return !VideoContent::holdsPictures(m_path);
 }
 
 void VideoFile::discardIfEmpty() const

@@ -368,16 +368,8 @@
         <translation>There is no screen that can be recorded</translation>
     </message>
     <message>
-        <source>没有找到 FFmpeg，请安装后再录制</source>
-        <translation>FFmpeg was not found. Install it to record</translation>
-    </message>
-    <message>
         <source>无法写入录像文件，请在设置中另选文件夹</source>
         <translation>The video cannot be written. Choose another folder in the settings</translation>
-    </message>
-    <message>
-        <source>磁盘已满，请清理后再录制。已录制的部分没有丢失</source>
-        <translation>The disk is full. Free some space before you record again. What was recorded is saved</translation>
     </message>
     <message>
         <source>录制时间太短，没有内容</source>
@@ -386,14 +378,6 @@
     <message>
         <source>无法创建文件夹 %1，请在设置中另选一个</source>
         <translation>The folder %1 cannot be created. Choose another one in the settings</translation>
-    </message>
-    <message>
-        <source>无法启动录制程序：%1。请重新安装本程序</source>
-        <translation>The recorder cannot be started: %1. Install this program again</translation>
-    </message>
-    <message>
-        <source>录制程序意外结束。已录制的部分没有丢失</source>
-        <translation>The recorder ended unexpectedly. What was recorded is saved</translation>
     </message>
     <message>
         <source>没有声音</source>
@@ -408,8 +392,52 @@
         <translation>no system sound</translation>
     </message>
     <message>
-        <source>录制失败：%1</source>
-        <translation>Recording failed: %1</translation>
+        <source>无法启动录制程序，请重新安装本程序</source>
+        <translation>The recorder cannot be started. Install this program again</translation>
+    </message>
+    <message>
+        <source>录制程序意外结束</source>
+        <translation>The recorder ended unexpectedly</translation>
+    </message>
+    <message>
+        <source>录制程序意外结束，没有录下内容，请重新录制</source>
+        <translation>The recorder ended unexpectedly before anything was recorded. Record again</translation>
+    </message>
+    <message>
+        <source>已录制的部分没有丢失</source>
+        <translation>What was recorded is saved</translation>
+    </message>
+    <message>
+        <source>没有找到 FFmpeg。请安装软件包 ffmpeg，或把它所在的文件夹加入 PATH，然后再录制</source>
+        <translation>FFmpeg was not found. Install the package ffmpeg, or add its folder to the PATH, then record again</translation>
+    </message>
+    <message>
+        <source>这个 FFmpeg 不能编码 H.264 视频，请安装完整的 FFmpeg</source>
+        <translation>This FFmpeg cannot encode H.264 video. Install a complete FFmpeg</translation>
+    </message>
+    <message>
+        <source>FFmpeg 没有按时结束，录像可能缺少最后一刻</source>
+        <translation>FFmpeg did not finish in time. The last moment of the video may be missing</translation>
+    </message>
+    <message>
+        <source>FFmpeg 意外结束，请重新录制</source>
+        <translation>FFmpeg ended unexpectedly. Record again</translation>
+    </message>
+    <message>
+        <source>FFmpeg 出错，录制中断。它的说明：%1</source>
+        <translation>FFmpeg stopped with an error. It says: %1</translation>
+    </message>
+    <message>
+        <source>磁盘已满，请清理后再录制</source>
+        <translation>The disk is full. Free some space before you record again</translation>
+    </message>
+    <message>
+        <source>录制程序出错，请重新安装本程序。它的说明：%1</source>
+        <translation>The recorder failed. Install this program again. It says: %1</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>nothing</translation>
     </message>
 </context>
 <context>

@@ -368,16 +368,8 @@
         <translation>録画できる画面がありません</translation>
     </message>
     <message>
-        <source>没有找到 FFmpeg，请安装后再录制</source>
-        <translation>FFmpeg が見つかりません。インストールしてから録画してください</translation>
-    </message>
-    <message>
         <source>无法写入录像文件，请在设置中另选文件夹</source>
         <translation>動画を書き込めません。設定で別のフォルダーを選んでください</translation>
-    </message>
-    <message>
-        <source>磁盘已满，请清理后再录制。已录制的部分没有丢失</source>
-        <translation>ディスクがいっぱいです。空きを作ってから録画してください。録画済みの部分は保存されています</translation>
     </message>
     <message>
         <source>录制时间太短，没有内容</source>
@@ -386,14 +378,6 @@
     <message>
         <source>无法创建文件夹 %1，请在设置中另选一个</source>
         <translation>フォルダー %1 を作成できません。設定で別のフォルダーを選んでください</translation>
-    </message>
-    <message>
-        <source>无法启动录制程序：%1。请重新安装本程序</source>
-        <translation>録画プログラムを起動できません：%1。このプログラムを再インストールしてください</translation>
-    </message>
-    <message>
-        <source>录制程序意外结束。已录制的部分没有丢失</source>
-        <translation>録画プログラムが予期せず終了しました。録画済みの部分は保存されています</translation>
     </message>
     <message>
         <source>没有声音</source>
@@ -408,8 +392,52 @@
         <translation>システム音なし</translation>
     </message>
     <message>
-        <source>录制失败：%1</source>
-        <translation>録画に失敗しました: %1</translation>
+        <source>无法启动录制程序，请重新安装本程序</source>
+        <translation>録画プログラムを起動できません。本アプリを再インストールしてください</translation>
+    </message>
+    <message>
+        <source>录制程序意外结束</source>
+        <translation>録画プログラムが予期せず終了しました</translation>
+    </message>
+    <message>
+        <source>录制程序意外结束，没有录下内容，请重新录制</source>
+        <translation>録画プログラムが予期せず終了し、何も録画されませんでした。もう一度録画してください</translation>
+    </message>
+    <message>
+        <source>已录制的部分没有丢失</source>
+        <translation>録画済みの部分は保存されています</translation>
+    </message>
+    <message>
+        <source>没有找到 FFmpeg。请安装软件包 ffmpeg，或把它所在的文件夹加入 PATH，然后再录制</source>
+        <translation>FFmpeg が見つかりません。パッケージ ffmpeg をインストールするか、そのフォルダーを PATH に追加してから録画してください</translation>
+    </message>
+    <message>
+        <source>这个 FFmpeg 不能编码 H.264 视频，请安装完整的 FFmpeg</source>
+        <translation>この FFmpeg は H.264 動画をエンコードできません。完全版の FFmpeg をインストールしてください</translation>
+    </message>
+    <message>
+        <source>FFmpeg 没有按时结束，录像可能缺少最后一刻</source>
+        <translation>FFmpeg が時間内に終了しませんでした。動画の最後の瞬間が欠けている可能性があります</translation>
+    </message>
+    <message>
+        <source>FFmpeg 意外结束，请重新录制</source>
+        <translation>FFmpeg が予期せず終了しました。もう一度録画してください</translation>
+    </message>
+    <message>
+        <source>FFmpeg 出错，录制中断。它的说明：%1</source>
+        <translation>FFmpeg のエラーで録画が中断されました。FFmpeg のメッセージ：%1</translation>
+    </message>
+    <message>
+        <source>磁盘已满，请清理后再录制</source>
+        <translation>ディスクがいっぱいです。空き容量を増やしてから録画してください</translation>
+    </message>
+    <message>
+        <source>录制程序出错，请重新安装本程序。它的说明：%1</source>
+        <translation>録画プログラムでエラーが発生しました。本アプリを再インストールしてください。メッセージ：%1</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>なし</translation>
     </message>
 </context>
 <context>

@@ -368,16 +368,8 @@
         <translation>녹화할 수 있는 화면이 없습니다</translation>
     </message>
     <message>
-        <source>没有找到 FFmpeg，请安装后再录制</source>
-        <translation>FFmpeg를 찾을 수 없습니다. 설치한 후 녹화하세요</translation>
-    </message>
-    <message>
         <source>无法写入录像文件，请在设置中另选文件夹</source>
         <translation>동영상을 쓸 수 없습니다. 설정에서 다른 폴더를 선택하세요</translation>
-    </message>
-    <message>
-        <source>磁盘已满，请清理后再录制。已录制的部分没有丢失</source>
-        <translation>디스크가 가득 찼습니다. 공간을 확보한 후 다시 녹화하세요. 녹화된 부분은 저장되었습니다</translation>
     </message>
     <message>
         <source>录制时间太短，没有内容</source>
@@ -386,14 +378,6 @@
     <message>
         <source>无法创建文件夹 %1，请在设置中另选一个</source>
         <translation>폴더 %1을(를) 만들 수 없습니다. 설정에서 다른 폴더를 선택하세요</translation>
-    </message>
-    <message>
-        <source>无法启动录制程序：%1。请重新安装本程序</source>
-        <translation>녹화 프로그램을 시작할 수 없습니다: %1. 이 프로그램을 다시 설치하세요</translation>
-    </message>
-    <message>
-        <source>录制程序意外结束。已录制的部分没有丢失</source>
-        <translation>녹화 프로그램이 예기치 않게 종료되었습니다. 녹화된 부분은 저장되었습니다</translation>
     </message>
     <message>
         <source>没有声音</source>
@@ -408,8 +392,52 @@
         <translation>시스템 소리 없음</translation>
     </message>
     <message>
-        <source>录制失败：%1</source>
-        <translation>녹화하지 못했습니다: %1</translation>
+        <source>无法启动录制程序，请重新安装本程序</source>
+        <translation>녹화 프로그램을 시작할 수 없습니다. 이 프로그램을 다시 설치하세요</translation>
+    </message>
+    <message>
+        <source>录制程序意外结束</source>
+        <translation>녹화 프로그램이 예기치 않게 종료되었습니다</translation>
+    </message>
+    <message>
+        <source>录制程序意外结束，没有录下内容，请重新录制</source>
+        <translation>녹화 프로그램이 예기치 않게 종료되어 녹화된 내용이 없습니다. 다시 녹화하세요</translation>
+    </message>
+    <message>
+        <source>已录制的部分没有丢失</source>
+        <translation>녹화된 부분은 저장되어 있습니다</translation>
+    </message>
+    <message>
+        <source>没有找到 FFmpeg。请安装软件包 ffmpeg，或把它所在的文件夹加入 PATH，然后再录制</source>
+        <translation>FFmpeg를 찾을 수 없습니다. ffmpeg 패키지를 설치하거나 해당 폴더를 PATH에 추가한 후 녹화하세요</translation>
+    </message>
+    <message>
+        <source>这个 FFmpeg 不能编码 H.264 视频，请安装完整的 FFmpeg</source>
+        <translation>이 FFmpeg는 H.264 동영상을 인코딩할 수 없습니다. 전체 기능을 갖춘 FFmpeg를 설치하세요</translation>
+    </message>
+    <message>
+        <source>FFmpeg 没有按时结束，录像可能缺少最后一刻</source>
+        <translation>FFmpeg가 제시간에 끝나지 않았습니다. 동영상의 마지막 순간이 빠졌을 수 있습니다</translation>
+    </message>
+    <message>
+        <source>FFmpeg 意外结束，请重新录制</source>
+        <translation>FFmpeg가 예기치 않게 종료되었습니다. 다시 녹화하세요</translation>
+    </message>
+    <message>
+        <source>FFmpeg 出错，录制中断。它的说明：%1</source>
+        <translation>FFmpeg 오류로 녹화가 중단되었습니다. FFmpeg 메시지: %1</translation>
+    </message>
+    <message>
+        <source>磁盘已满，请清理后再录制</source>
+        <translation>디스크가 가득 찼습니다. 공간을 확보한 후 다시 녹화하세요</translation>
+    </message>
+    <message>
+        <source>录制程序出错，请重新安装本程序。它的说明：%1</source>
+        <translation>녹화 프로그램에서 오류가 발생했습니다. 이 프로그램을 다시 설치하세요. 메시지: %1</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>없음</translation>
     </message>
 </context>
 <context>

@@ -368,16 +368,8 @@
         <translation>找不到可以录制的屏幕</translation>
     </message>
     <message>
-        <source>没有找到 FFmpeg，请安装后再录制</source>
-        <translation>没有找到 FFmpeg，请安装后再录制</translation>
-    </message>
-    <message>
         <source>无法写入录像文件，请在设置中另选文件夹</source>
         <translation>无法写入录像文件，请在设置中另选文件夹</translation>
-    </message>
-    <message>
-        <source>磁盘已满，请清理后再录制。已录制的部分没有丢失</source>
-        <translation>磁盘已满，请清理后再录制。已录制的部分没有丢失</translation>
     </message>
     <message>
         <source>录制时间太短，没有内容</source>
@@ -386,14 +378,6 @@
     <message>
         <source>无法创建文件夹 %1，请在设置中另选一个</source>
         <translation>无法创建文件夹 %1，请在设置中另选一个</translation>
-    </message>
-    <message>
-        <source>无法启动录制程序：%1。请重新安装本程序</source>
-        <translation>无法启动录制程序：%1。请重新安装本程序</translation>
-    </message>
-    <message>
-        <source>录制程序意外结束。已录制的部分没有丢失</source>
-        <translation>录制程序意外结束。已录制的部分没有丢失</translation>
     </message>
     <message>
         <source>没有声音</source>
@@ -408,8 +392,52 @@
         <translation>没有系统声音</translation>
     </message>
     <message>
-        <source>录制失败：%1</source>
-        <translation>录制失败：%1</translation>
+        <source>无法启动录制程序，请重新安装本程序</source>
+        <translation>无法启动录制程序，请重新安装本程序</translation>
+    </message>
+    <message>
+        <source>录制程序意外结束</source>
+        <translation>录制程序意外结束</translation>
+    </message>
+    <message>
+        <source>录制程序意外结束，没有录下内容，请重新录制</source>
+        <translation>录制程序意外结束，没有录下内容，请重新录制</translation>
+    </message>
+    <message>
+        <source>已录制的部分没有丢失</source>
+        <translation>已录制的部分没有丢失</translation>
+    </message>
+    <message>
+        <source>没有找到 FFmpeg。请安装软件包 ffmpeg，或把它所在的文件夹加入 PATH，然后再录制</source>
+        <translation>没有找到 FFmpeg。请安装软件包 ffmpeg，或把它所在的文件夹加入 PATH，然后再录制</translation>
+    </message>
+    <message>
+        <source>这个 FFmpeg 不能编码 H.264 视频，请安装完整的 FFmpeg</source>
+        <translation>这个 FFmpeg 不能编码 H.264 视频，请安装完整的 FFmpeg</translation>
+    </message>
+    <message>
+        <source>FFmpeg 没有按时结束，录像可能缺少最后一刻</source>
+        <translation>FFmpeg 没有按时结束，录像可能缺少最后一刻</translation>
+    </message>
+    <message>
+        <source>FFmpeg 意外结束，请重新录制</source>
+        <translation>FFmpeg 意外结束，请重新录制</translation>
+    </message>
+    <message>
+        <source>FFmpeg 出错，录制中断。它的说明：%1</source>
+        <translation>FFmpeg 出错，录制中断。它的说明：%1</translation>
+    </message>
+    <message>
+        <source>磁盘已满，请清理后再录制</source>
+        <translation>磁盘已满，请清理后再录制</translation>
+    </message>
+    <message>
+        <source>录制程序出错，请重新安装本程序。它的说明：%1</source>
+        <translation>录制程序出错，请重新安装本程序。它的说明：%1</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>无</translation>
     </message>
 </context>
 <context>

@@ -29,7 +29,7 @@ Window {
     Component.onDestruction: Notices.forget(root)
 
     screen: Application.screens[0]
-    title: detail === "" ? heading : heading + " · " + detail
+    title: detail === "" ? heading : heading + " · " + detail.replace("\n", " · ")
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint | Qt.WindowDoesNotAcceptFocus
     color: "transparent"
     width: 340

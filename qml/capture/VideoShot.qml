@@ -98,6 +98,11 @@ Window {
         return functionRect.place;
     }
 
+    /// Whether there is something of the latest recording in a file.
+    function saved() {
+        return captureObject.report.savedFile() !== "";
+    }
+
     function tellFailure(detail) {
         if (failureTold)
             return;
@@ -105,7 +110,7 @@ Window {
         Notices.show({
             heading: qsTr("录制失败"),
             detail: detail,
-            filePath: captureObject.report.filePath,
+            filePath: captureObject.report.savedFile(),
             isFailure: true,
             // A panel that stays would lie over it.
             transientParent: leaving ? null : root
@@ -113,11 +118,12 @@ Window {
     }
 
     function tellSaved() {
-        if (!failureTold && captureObject.report.filePath !== "")
+        const filePath = captureObject.report.savedFile();
+        if (!failureTold && filePath !== "")
             Notices.show({
                 heading: qsTr("录像已保存"),
                 detail: indicator.note,
-                filePath: captureObject.report.filePath
+                filePath: filePath
             });
     }
 
@@ -164,7 +170,7 @@ Window {
         onRecordingError: errorMessage => {
             console.log("QML监听到：录制错误:", errorMessage);
             indicator.end();
-            root.tellFailure(messages.controllerFailure(errorMessage));
+            root.tellFailure(messages.controllerFailure(errorMessage, root.saved()));
         }
     }
 
@@ -175,7 +181,7 @@ Window {
             indicator.add(messages.warning(code, text));
         }
         function onError(code, text) {
-            root.tellFailure(messages.failure(code, text));
+            root.tellFailure(messages.failure(code, text, root.saved()));
         }
     }
 

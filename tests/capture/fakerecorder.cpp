@@ -59,10 +59,18 @@ int main(int argc, char **argv)
     if (mode == "crashes")
         std::abort();
     if (mode == "explains") {
-        std::ofstream(std::string(argv[5]) + "record.mp4") << "a part";
+        std::ofstream(std::string(argv[5]) + "record.mp4") << "a header and a moof";
         std::fputs("warning[no-microphone]: There is no microphone.\nerror[disk-full]: Th", stderr);
         std::fputs("e disk is full.\n", stderr);
         std::printf("file: %srecord.mp4\n", argv[5]);
+        return 1;
+    }
+    if (mode == "floods") {
+        const std::string piece(1 << 20, 'x');
+        for (int i = 0; i < 300; ++i) {
+            std::fputs(piece.c_str(), stdout);
+            std::fputs(piece.c_str(), stderr);
+        }
         return 1;
     }
     if (mode == "babbles") {

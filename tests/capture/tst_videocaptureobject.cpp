@@ -13,6 +13,8 @@
 
 #include <csignal>
 
+#include <sys/resource.h>
+
 using namespace CaptureTexts;
 
 namespace
@@ -63,6 +65,7 @@ private slots:
     void createsTheOutputFolder();
     void folderThatCannotBeCreated();
     void tellsWhatTheRecorderSays();
+    void takesNoMemoryForALineWithoutEnd();
     void tellsUncodedLastWords();
     void killsTheRecorderWhenDestroyed();
 
@@ -312,11 +315,32 @@ void TestVideoCaptureObject::tellsWhatTheRecorderSays()
     const QStringList expected{ "started", "no-microphone", "There is no microphone.", "disk-full",
         "The disk is full.", "stopped" };
     QTRY_COMPARE(m_events, expected);
-    QTRY_COMPARE(m_capture->report()->filePath(), m_folder->path() + "/out/record.mp4");
+    QTRY_COMPARE(m_capture->report()->savedFile(), m_folder->path() + "/out/record.mp4");
+    // A mere header is nothing that was saved.
+    QFile file(m_capture->report()->savedFile());
+    QVERIFY(file.resize(8));
+    QVERIFY(m_capture->report()->savedFile().isEmpty());
 
     QVERIFY(QFile::remove(argumentsFile()));
     QVERIFY(start("stops"));
-    QVERIFY(m_capture->report()->filePath().isEmpty());
+    QVERIFY(m_capture->report()->savedFile().isEmpty());
+}
+
+void TestVideoCaptureObject::takesNoMemoryForALineWithoutEnd()
+{
+    QString text;
+    connect(m_capture->report(), &RecorderReport::error, this,
+        [&](const QString &, const QString &words) { text = words; });
+    const auto highWaterKiB = [] {
+        rusage usage{};
+        ::getrusage(RUSAGE_SELF, &usage);
+        return usage.ru_maxrss;
+    };
+    const long before = highWaterKiB();
+    QVERIFY(start("floods")); // 300 MiB each to both channels
+    QTRY_COMPARE_WITH_TIMEOUT(m_events, QStringList({ "started", "stopped" }), 60000);
+    QCOMPARE(text, QString(LineBuffer::kMaxBytes, 'x'));
+    QVERIFY2(highWaterKiB() - before < 50 * 1024, qPrintable(QString::number(highWaterKiB())));
 }
 
 void TestVideoCaptureObject::tellsUncodedLastWords()

@@ -69,14 +69,17 @@ QProcessEnvironment SoundServer::environment() const
     return environment;
 }
 
-bool SoundServer::start(bool withMicrophone)
+bool SoundServer::start(Microphone microphone)
 {
     QStringList arguments{ "-n", "--daemonize=no", "--exit-idle-time=-1", "--log-level=error" };
     const auto load = [&](const QString &module) { arguments << "-L" << module; };
     load("module-null-sink sink_name=speaker");
-    if (withMicrophone) {
+    if (microphone == Microphone::Room) {
         load("module-null-sink sink_name=room");
         load("module-remap-source source_name=microphone master=room.monitor");
+    } else if (microphone == Microphone::Pipe) {
+        load("module-pipe-source source_name=microphone channels=1 format=s16le rate=48000 file="
+            + microphonePipe());
     }
     load("module-native-protocol-unix auth-anonymous=1 socket=" + m_folder.path() + "/socket");
 
@@ -93,7 +96,7 @@ bool SoundServer::start(bool withMicrophone)
     };
     return QTest::qWaitFor([&] {
         return ask({ "set-default-sink", "speaker" });
-    }) && (!withMicrophone || ask({ "set-default-source", "microphone" }));
+    }) && (microphone == Microphone::None || ask({ "set-default-source", "microphone" }));
 }
 
 bool SoundServer::play(const QString &sink, int hertz)

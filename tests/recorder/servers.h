@@ -29,9 +29,13 @@ class SoundServer
 public:
     ~SoundServer();
 
-    /// Returns whether it answers. With a microphone, the default source is one that hears what is
-    /// played to the output "room".
-    bool start(bool withMicrophone);
+    /// Which default source there is: none, one that hears what is played to the output "room", or
+    /// one that hears what is written to `microphonePipe`, 16 bit, one channel, 48000 a second.
+    enum class Microphone { None, Room, Pipe };
+
+    /// Returns whether it answers.
+    bool start(Microphone microphone);
+    QString microphonePipe() const { return m_folder.filePath("microphone"); }
     /// The value of PULSE_SERVER for its clients.
     QString address() const;
     /// Plays a tone until this object ends; returns once it can be heard.

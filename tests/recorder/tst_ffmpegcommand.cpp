@@ -107,13 +107,15 @@ void TestFfmpegCommand::explainsFailures_data()
     QTest::addColumn<QString>("part");
     QTest::newRow("full disk") << QByteArray(
         "av_interleaved_write_frame(): No space left on device\nConversion failed!\n")
-                               << QString(Code::kDiskFull) << "free some space in /v";
+                               << QString(Code::kDiskFull) << "Free some space in /v";
     QTest::newRow("no display") << QByteArray(
         "[x11grab @ 0x1] Cannot open display :7, error 1.\n:7: I/O error\n")
                                 << QString(Code::kNoScreen) << "display";
-    QTest::newRow("other") << QByteArray("first\nUnknown encoder 'libx264'\n\n")
-                           << QString(Code::kEncoderFailed) << "Unknown encoder 'libx264'";
-    QTest::newRow("silent") << QByteArray() << QString(Code::kEncoderFailed)
+    QTest::newRow("no H.264") << QByteArray("first\nUnknown encoder 'libx264'\n\n")
+                              << QString(Code::kEncoderLacking) << "H.264";
+    QTest::newRow("other") << QByteArray("first\nSomething broke\n\n")
+                           << QString(Code::kEncoderFailed) << "FFmpeg failed: Something broke";
+    QTest::newRow("silent") << QByteArray() << QString(Code::kEncoderEnded)
                             << "without saying why";
 }
 
@@ -125,6 +127,9 @@ void TestFfmpegCommand::explainsFailures()
     const EncoderFailure failure = EncoderFailure::fromWords(words, "/v/clip.mp4");
     QCOMPARE(failure.code, code);
     QVERIFY2(failure.text.contains(part), qPrintable(failure.text));
+    // It is at closing that a disk may say that nothing of it was kept.
+    QVERIFY(EncoderFailure::tellsFailedWrite("Error closing file /v/clip.mp4: Input/output error"));
+    QVERIFY(!EncoderFailure::tellsFailedWrite("[x11grab] Something broke"));
 }
 
 void TestFfmpegCommand::readsTheWindowsDeviceList()

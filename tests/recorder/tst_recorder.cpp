@@ -1,6 +1,9 @@
+#include "tests/recorder/backdrop.h"
+#include "tests/recorder/beacon.h"
 #include "tests/recorder/servers.h"
 #include "tests/recorder/videofacts.h"
 
+#include <QColor>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QRegularExpression>
@@ -85,9 +88,14 @@ private slots:
 
     void hearsTheChosenSources_data();
     void hearsTheChosenSources();
+    void keepsSoundAndPictureTogether_data();
+    void keepsSoundAndPictureTogether();
+    void showsTrueColours_data();
+    void showsTrueColours();
     void losesAtMostASecondWhenKilled_data();
     void losesAtMostASecondWhenKilled();
     void recordsOnWhenTheSoundServerEnds();
+    void tellsOfAFullDisk_data();
     void tellsOfAFullDisk();
     void tellsWhyItCannotRecord_data();
     void tellsWhyItCannotRecord();
@@ -109,7 +117,7 @@ private:
 void TestRecorder::initTestCase()
 {
     QVERIFY(m_screen.start(1280, 800));
-    QVERIFY(m_speaker.start(false));
+    QVERIFY(m_speaker.start(SoundServer::Microphone::None));
     QVERIFY(m_speaker.play("speaker", kToneHertz));
 }
 
@@ -142,7 +150,7 @@ void TestRecorder::hearsTheChosenSources()
     QFETCH(bool, hearsSystem);
     QFETCH(bool, hearsMicrophone);
     SoundServer server;
-    QVERIFY(server.start(true));
+    QVERIFY(server.start(SoundServer::Microphone::Room));
     QVERIFY(server.play("speaker", kToneHertz));
     QVERIFY(server.play("room", kRoomHertz));
     QProcessEnvironment own = environment();
@@ -158,6 +166,74 @@ void TestRecorder::hearsTheChosenSources()
     QVERIFY2(hearsSystem ? system > 0.2 : system < 0.01, qPrintable(QString::number(system)));
     QVERIFY2(hearsMicrophone ? microphone > 0.2 : microphone < 0.01,
         qPrintable(QString::number(microphone)));
+}
+
+void TestRecorder::keepsSoundAndPictureTogether_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<bool>("isMicrophone");
+    QTest::newRow("system") << "--no-mic" << false;
+    QTest::newRow("microphone") << "--no-system-audio" << true;
+}
+
+void TestRecorder::keepsSoundAndPictureTogether()
+{
+    QFETCH(QString, option);
+    QFETCH(bool, isMicrophone);
+    SoundServer server;
+    QVERIFY(server.start(SoundServer::Microphone::Pipe));
+    const Beacon beacon(
+        m_screen, server, isMicrophone ? Beacon::Ear::Microphone : Beacon::Ear::Speaker);
+    QVERIFY(QTest::qWaitFor([&] { return beacon.flashes() > 0; }, 20000));
+    QProcessEnvironment own = environment();
+    own.insert("PULSE_SERVER", server.address());
+
+    Recorder recorder(arguments(option), own);
+    const QString path = recorder.file();
+    const int enough = beacon.flashes() + 12;
+    QVERIFY(QTest::qWaitFor([&] { return beacon.flashes() >= enough; }, 60000));
+    recorder.end(SIGTERM);
+    QCOMPARE(recorder.notes(), QByteArray());
+
+    // One picture, and a little for a machine that shows a flash late.
+    constexpr double kApart = 1.0 / 30 + 0.005;
+    int seen = 0;
+    int apart = 0;
+    QString table;
+    for (const auto &[seconds, soundLate] : VideoFacts::flashesAndClicks(path)) {
+        table += QString(" %1 s: %2").arg(seconds, 0, 'f', 2).arg(soundLate, 0, 'f', 3);
+        seen += seconds >= 1;
+        apart += seconds >= 1 && std::abs(soundLate) > kApart;
+    }
+    QVERIFY2(seen >= 6, qPrintable(table));
+    // A picture that was taken late says nothing about the sound; a wrong clock shifts them all.
+    QVERIFY2(apart <= seen / 6, qPrintable(table));
+}
+
+void TestRecorder::showsTrueColours_data()
+{
+    QTest::addColumn<QColor>("colour");
+    QTest::newRow("red") << QColor(220, 30, 20);
+    QTest::newRow("green") << QColor(20, 200, 60);
+    QTest::newRow("white") << QColor(255, 255, 255);
+}
+
+void TestRecorder::showsTrueColours()
+{
+    QFETCH(QColor, colour);
+    const Backdrop backdrop(m_screen.display().toUtf8(), colour.rgb());
+    // Killed, as then nobody completes the file.
+    Recorder recorder(arguments("--no-audio"), environment());
+    const QString path = recorder.file();
+    QTRY_VERIFY(VideoFacts::of(path).plays);
+    recorder.end(SIGKILL);
+    QCOMPARE(VideoFacts::colourTags(path), QByteArray("tv,bt709,bt709,bt709"));
+    const QColor shown = VideoFacts::colourAsBt709(path);
+    const auto apart = [&](int (QColor::*part)() const) {
+        return std::abs((shown.*part)() - (colour.*part)());
+    };
+    QVERIFY2(apart(&QColor::red) <= 4 && apart(&QColor::green) <= 4 && apart(&QColor::blue) <= 4,
+        qPrintable(shown.name()));
 }
 
 void TestRecorder::losesAtMostASecondWhenKilled_data()
@@ -193,7 +269,7 @@ void TestRecorder::losesAtMostASecondWhenKilled()
 void TestRecorder::recordsOnWhenTheSoundServerEnds()
 {
     SoundServer server;
-    QVERIFY(server.start(true));
+    QVERIFY(server.start(SoundServer::Microphone::Room));
     QVERIFY(server.play("speaker", kToneHertz));
     QProcessEnvironment own = environment();
     own.insert("PULSE_SERVER", server.address());
@@ -210,11 +286,27 @@ void TestRecorder::recordsOnWhenTheSoundServerEnds()
     QVERIFY(VideoFacts::toneShare(path, kToneHertz) > 0.5);
 }
 
+void TestRecorder::tellsOfAFullDisk_data()
+{
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<bool>("holdsPictures");
+    QTest::newRow("from the start") << "16k" << false;
+    QTest::newRow("after a while") << "200k" << true;
+}
+
 void TestRecorder::tellsOfAFullDisk()
 {
-    // A disk of its own that a few pictures fill; it goes with the recorder.
+    QFETCH(QString, size);
+    QFETCH(bool, holdsPictures);
+    // A disk of its own that a few pictures fill; it goes with the recorder, but what was on it is
+    // copied aside first.
+    const QString folder = m_folder->path();
+    const QString kept = m_folder->path() + ".mp4";
     const QStringList smallDisk{ "unshare", "--map-root-user", "--mount", "sh", "-c",
-        "mount -t tmpfs -o size=16k none \"$0\" && exec \"$@\"", m_folder->path() };
+        "mount -t tmpfs -o size=" + size
+            + " none \"$0\" && { \"$@\"; ended=$?; cp \"$0\"/*.mp4 \"$0.mp4\" 2>/dev/null; "
+              "exit $ended; }",
+        folder };
     if (QProcess::execute(smallDisk.first(), smallDisk.mid(1) << "true") != 0)
         QSKIP("this machine lets nobody mount a disk");
     Recorder recorder(arguments("--no-mic"), environment(), smallDisk);
@@ -222,6 +314,8 @@ void TestRecorder::tellsOfAFullDisk()
     const QByteArray notes = recorder.notes();
     QVERIFY2(notes.startsWith("error[disk-full]: "), notes.constData());
     QCOMPARE(recorder.process.exitCode(), 1);
+    QCOMPARE(VideoFacts::of(kept).plays, holdsPictures);
+    QCOMPARE(QFile::remove(kept), holdsPictures);
 }
 
 void TestRecorder::tellsWhyItCannotRecord_data()
