@@ -12,7 +12,8 @@ inline bool holdsPictures(const QString &path)
     constexpr qint64 kHeaderBytes = 16 * 1024; // more than the header takes
     QFile file(path);
     // Pictures come in fragments, the first of which follows the header.
-    return file.open(QIODevice::ReadOnly) && file.read(kHeaderBytes).contains("moof");
+    return !path.isEmpty() && file.open(QIODevice::ReadOnly)
+        && file.read(kHeaderBytes).contains("moof");
 }
 
 } // namespace VideoContent

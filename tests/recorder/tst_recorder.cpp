@@ -95,8 +95,7 @@ private slots:
     void losesAtMostASecondWhenKilled_data();
     void losesAtMostASecondWhenKilled();
     void recordsOnWhenTheSoundServerEnds();
-    void tellsOfAFullDisk_data();
-    void tellsOfAFullDisk();
+    void keepsWhatAFullDiskHolds();
     void tellsWhyItCannotRecord_data();
     void tellsWhyItCannotRecord();
     void leavesNothingWhenStoppedAtOnce();
@@ -286,27 +285,15 @@ void TestRecorder::recordsOnWhenTheSoundServerEnds()
     QVERIFY(VideoFacts::toneShare(path, kToneHertz) > 0.5);
 }
 
-void TestRecorder::tellsOfAFullDisk_data()
+void TestRecorder::keepsWhatAFullDiskHolds()
 {
-    QTest::addColumn<QString>("size");
-    QTest::addColumn<bool>("holdsPictures");
-    QTest::newRow("from the start") << "16k" << false;
-    QTest::newRow("after a while") << "200k" << true;
-}
-
-void TestRecorder::tellsOfAFullDisk()
-{
-    QFETCH(QString, size);
-    QFETCH(bool, holdsPictures);
-    // A disk of its own that a few pictures fill; it goes with the recorder, but what was on it is
+    // A disk of its own that a few seconds fill; it goes with the recorder, but what was on it is
     // copied aside first.
-    const QString folder = m_folder->path();
     const QString kept = m_folder->path() + ".mp4";
     const QStringList smallDisk{ "unshare", "--map-root-user", "--mount", "sh", "-c",
-        "mount -t tmpfs -o size=" + size
-            + " none \"$0\" && { \"$@\"; ended=$?; cp \"$0\"/*.mp4 \"$0.mp4\" 2>/dev/null; "
-              "exit $ended; }",
-        folder };
+        "mount -t tmpfs -o size=200k none \"$0\" && { \"$@\"; ended=$?; "
+        "cp -f \"$0\"/*.mp4 \"$0.mp4\" 2>&-; exit $ended; }",
+        m_folder->path() };
     if (QProcess::execute(smallDisk.first(), smallDisk.mid(1) << "true") != 0)
         QSKIP("this machine lets nobody mount a disk");
     Recorder recorder(arguments("--no-mic"), environment(), smallDisk);
@@ -314,8 +301,10 @@ void TestRecorder::tellsOfAFullDisk()
     const QByteArray notes = recorder.notes();
     QVERIFY2(notes.startsWith("error[disk-full]: "), notes.constData());
     QCOMPARE(recorder.process.exitCode(), 1);
-    QCOMPARE(VideoFacts::of(kept).plays, holdsPictures);
-    QCOMPARE(QFile::remove(kept), holdsPictures);
+    const VideoFacts facts = VideoFacts::of(kept);
+    QFile::remove(kept);
+    QVERIFY(facts.plays);
+    QVERIFY2(facts.seconds > 1, qPrintable(QString::number(facts.seconds)));
 }
 
 void TestRecorder::tellsWhyItCannotRecord_data()

@@ -72,7 +72,7 @@ std::vector<double> flashes(const QString &path)
 std::vector<double> clicks(const QString &path)
 {
     constexpr int kRate = 48000;
-    constexpr double kLoud = 0.2;
+    constexpr float kLoud = 0.2F;
     constexpr qsizetype kSilence = kRate / 10;
     const QByteArray bytes = outputOf("ffmpeg",
         { "-v", "error", "-i", path, "-ac", "1", "-ar", QString::number(kRate), "-f", "f32le",
