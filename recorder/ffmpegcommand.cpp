@@ -88,13 +88,12 @@ QString FfmpegCommand::preset() const
 }
 
 /// Video from the first input, whatever follows mixed into one sound track. Gaps in time become
-/// repeated pictures and silence, from the recording's zero on. A picture shows what happened in the
-/// thirtieth of a second before it was taken; rounded down, its time is right on average, and sound
-/// is never more than one picture away from it.
+/// repeated pictures and silence, from the recording's zero on. A picture shows what happened in
+/// the thirtieth of a second before it was taken; rounded down, its time is right on average, and
+/// sound is never more than one picture away from it.
 QString FfmpegCommand::filterGraph() const
 {
-    QString graph =
-        QStringLiteral("[0:v]fps=%1:start_time=0:round=down,"
+    QString graph = QStringLiteral("[0:v]fps=%1:start_time=0:round=down,"
                                    "scale=out_color_matrix=bt709:out_range=tv,format=yuv420p[v]")
                         .arg(kFramesPerSecond);
     if (sound.isEmpty())

@@ -105,10 +105,10 @@ void PulseStream::takeTiming()
     const Clock::time_point answered = now - microseconds(pa_timeval_age(&info->timestamp));
     // What was in the stream then, what the device had heard beyond it, and how far ahead of its
     // sounding an output's monitor gets it.
-    const auto streamed = static_cast<int64_t>(
-        pa_bytes_to_usec(static_cast<uint64_t>(info->write_index), &kFormat));
-    const microseconds heard(streamed + static_cast<int64_t>(info->source_usec)
-        - static_cast<int64_t>(info->sink_usec));
+    const auto streamed =
+        static_cast<int64_t>(pa_bytes_to_usec(static_cast<uint64_t>(info->write_index), &kFormat));
+    const microseconds heard(
+        streamed + static_cast<int64_t>(info->source_usec) - static_cast<int64_t>(info->sink_usec));
     m_beginnings.push_back(answered - heard);
     if (m_beginnings.size() > kTimingAnswers)
         m_beginnings.pop_front();

@@ -24,7 +24,8 @@ public:
     using Clock = std::chrono::steady_clock;
     /// Takes samples and the moment at which their first frame sounded, or is going to: what an
     /// output plays can be had before it is heard.
-    using Consumer = std::function<void(Clock::time_point sounded, std::span<const int16_t> samples)>;
+    using Consumer =
+        std::function<void(Clock::time_point sounded, std::span<const int16_t> samples)>;
 
     PulseStream(pa_context *context, const QByteArray &source);
     ~PulseStream();

@@ -10,7 +10,7 @@ namespace
 constexpr int64_t kLostFrames = SoundMixer::kRate / 40;
 /// Less than the estimate's own jitter: leave alone. In between, one frame at a time is dropped,
 /// or a gap of one left, until the source is back in step; nobody hears that.
-constexpr int64_t kInStepFrames = SoundMixer::kRate / 200;
+constexpr int64_t kInStepFrames = SoundMixer::kRate / 100;
 /// No honest source is this far ahead.
 constexpr int64_t kMaxAheadFrames = SoundMixer::kRate * 10;
 

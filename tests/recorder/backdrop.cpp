@@ -25,6 +25,5 @@ void Backdrop::setColour(QRgb colour)
     const uint32_t pixel = colour & RGB_MASK;
     xcb_change_window_attributes(m_connection, m_window, XCB_CW_BACK_PIXEL, &pixel);
     xcb_clear_area(m_connection, 0, m_window, 0, 0, 0, 0);
-    std::free(
-        xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    std::free(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
 }

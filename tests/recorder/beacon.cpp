@@ -37,7 +37,8 @@ std::vector<int16_t> samples(int64_t from, int64_t count)
     for (size_t i = 0; i < block.size(); ++i) {
         const int64_t at = (from + static_cast<int64_t>(i)) % kPeriod;
         if (at < kClick)
-            block[i] = static_cast<int16_t>(24000 * std::sin(2 * M_PI * 2000 * (static_cast<double>(at) + 6) / kRate));
+            block[i] = static_cast<int16_t>(
+                24000 * std::sin(2 * M_PI * 2000 * (static_cast<double>(at) + 6) / kRate));
     }
     return block;
 }
@@ -111,8 +112,7 @@ private:
         const auto room = static_cast<int64_t>(pa_stream_writable_size(m_stream) / 2);
         const std::vector<int16_t> block = samples(m_written, room);
         if (!block.empty())
-            pa_stream_write(
-                m_stream, block.data(), block.size() * 2, nullptr, 0, PA_SEEK_RELATIVE);
+            pa_stream_write(m_stream, block.data(), block.size() * 2, nullptr, 0, PA_SEEK_RELATIVE);
         m_written += room;
     }
 

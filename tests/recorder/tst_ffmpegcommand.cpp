@@ -115,8 +115,7 @@ void TestFfmpegCommand::explainsFailures_data()
                               << QString(Code::kEncoderLacking) << "H.264";
     QTest::newRow("other") << QByteArray("first\nSomething broke\n\n")
                            << QString(Code::kEncoderFailed) << "FFmpeg failed: Something broke";
-    QTest::newRow("silent") << QByteArray() << QString(Code::kEncoderEnded)
-                            << "without saying why";
+    QTest::newRow("silent") << QByteArray() << QString(Code::kEncoderEnded) << "without saying why";
 }
 
 void TestFfmpegCommand::explainsFailures()

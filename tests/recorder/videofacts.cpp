@@ -119,7 +119,8 @@ std::vector<VideoFacts::Event> VideoFacts::flashesAndClicks(const QString &path)
     const std::vector<double> heard = clicks(path);
     std::vector<Event> events;
     for (const double seen : flashes(path)) {
-        const auto nearest = std::min_element(heard.begin(), heard.end(), [&](double a, double b) { return std::abs(a - seen) < std::abs(b - seen); });
+        const auto nearest = std::min_element(heard.begin(), heard.end(),
+            [&](double a, double b) { return std::abs(a - seen) < std::abs(b - seen); });
         if (nearest != heard.end())
             events.push_back({ seen, *nearest - seen });
     }
