@@ -47,6 +47,7 @@ void setIdentity()
     QCoreApplication::setApplicationName(QLatin1String(Identity::kApplicationName));
     QCoreApplication::setApplicationVersion(QLatin1String(Identity::kVersion));
     QCoreApplication::setOrganizationName(QLatin1String(Identity::kOrganization));
+    QGuiApplication::setDesktopFileName(QLatin1String(Identity::kDesktopEntry));
     QGuiApplication::setWindowIcon(QIcon(QLatin1String(Identity::kIcon)));
 }
 

@@ -108,6 +108,204 @@
     </message>
 </context>
 <context>
+    <name>HelpDesk</name>
+    <message>
+        <source>页面无法写入用户文件夹，请检查磁盘空间和文件夹权限</source>
+        <translation>The page cannot be written to your home folder. Check the disk space and the folder&apos;s permissions.</translation>
+    </message>
+    <message>
+        <source>系统没有可用的浏览器，页面在 %1</source>
+        <translation>No browser could be started. The page is at %1</translation>
+    </message>
+    <message>
+        <source>程序里没有 %1 的许可证，请重新安装</source>
+        <translation>The program lacks the license %1. Please install it again.</translation>
+    </message>
+</context>
+<context>
+    <name>HelpPage</name>
+    <message>
+        <source>zh-CN</source>
+        <extracomment>The tag of the language that this catalogue is in, such as en-US.</extracomment>
+        <translation>en-US</translation>
+    </message>
+    <message>
+        <source>这组键同时做几件事，可在设置里改</source>
+        <translation>These keys do several things at once; change them in the settings</translation>
+    </message>
+    <message>
+        <source>脚本也能使用画笔，%1 列出全部选项。</source>
+        <translation>Scripts can use the pen, too: %1 lists every option.</translation>
+    </message>
+    <message>
+        <source>Dravelin 帮助</source>
+        <translation>Dravelin help</translation>
+    </message>
+    <message>
+        <source>工具</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>热键，随处可用</source>
+        <translation>Keys that work anywhere</translation>
+    </message>
+    <message>
+        <source>绘制时</source>
+        <translation>While drawing</translation>
+    </message>
+    <message>
+        <source>命令行</source>
+        <translation>Command line</translation>
+    </message>
+    <message>
+        <source>屏幕上的画笔：所有工具和热键</source>
+        <translation>A pen for your whole screen: all tools and keys</translation>
+    </message>
+</context>
+<context>
+    <name>HelpSheet</name>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>按住拖动，或用方向键移动</source>
+        <translation>Hold and drag, or use the arrow keys</translation>
+    </message>
+    <message>
+        <source>只留下这两个按钮，再次点击展开</source>
+        <translation>Leaves only these two buttons; click again to unfold</translation>
+    </message>
+    <message>
+        <source>画笔与鼠标</source>
+        <translation>Pen and mouse</translation>
+    </message>
+    <message>
+        <source>开始绘制，或把鼠标还给桌面；标记会保留</source>
+        <translation>Draw, or give the desktop its pointer back; marks stay</translation>
+    </message>
+    <message>
+        <source>书写</source>
+        <translation>Write</translation>
+    </message>
+    <message>
+        <source>按住并拖动；文字在点击处输入</source>
+        <translation>Hold and drag; text goes where you click</translation>
+    </message>
+    <message>
+        <source>形状</source>
+        <translation>Shapes</translation>
+    </message>
+    <message>
+        <source>从一角拖到另一角；每点一下，编号加一</source>
+        <translation>Drag from end to end; each click places the next number</translation>
+    </message>
+    <message>
+        <source>划过的标记整个擦除；再次点击结束</source>
+        <translation>Erases every mark it touches; click again to end</translation>
+    </message>
+    <message>
+        <source>撤销与恢复</source>
+        <translation>Undo and redo</translation>
+    </message>
+    <message>
+        <source>点击执行按钮上显示的一步</source>
+        <translation>A click does what the button shows</translation>
+    </message>
+    <message>
+        <source>删除所有标记和背景图片，无法撤销</source>
+        <translation>Removes all marks and the picture; cannot be undone</translation>
+    </message>
+    <message>
+        <source>标记后面的底色或图片</source>
+        <translation>Color or picture behind the marks</translation>
+    </message>
+    <message>
+        <source>选一个区域，存为图片并复制到剪贴板</source>
+        <translation>Choose a region; it is saved and copied to the clipboard</translation>
+    </message>
+    <message>
+        <source>选区域和声音，录成视频；再次点击停止</source>
+        <translation>Choose region and sound, record a video; click again to stop</translation>
+    </message>
+    <message>
+        <source>之后所画标记的颜色</source>
+        <translation>Color of what you draw from now on</translation>
+    </message>
+    <message>
+        <source>之后所画标记的粗细</source>
+        <translation>Width of what you draw from now on</translation>
+    </message>
+    <message>
+        <source>每隔一段时间，最早的一笔淡出</source>
+        <translation>The oldest mark fades away, one at a time</translation>
+    </message>
+    <message>
+        <source>最新的一笔忽明忽暗，引人注意</source>
+        <translation>The newest mark pulses to draw the eye</translation>
+    </message>
+    <message>
+        <source>语言、热键和保存文件夹在设置里</source>
+        <translation>Language, keys and folder are in the setup</translation>
+    </message>
+    <message>
+        <source>Shift+拖动</source>
+        <translation>Shift+drag</translation>
+    </message>
+    <message>
+        <source>直线沿 45° 方向，矩形成正方形</source>
+        <translation>Lines in steps of 45°, rectangles square</translation>
+    </message>
+    <message>
+        <source>单击标记</source>
+        <translation>Click a mark</translation>
+    </message>
+    <message>
+        <source>选中它：拖动以移动，拉手柄以缩放</source>
+        <translation>Selects it: drag to move, pull a handle to scale</translation>
+    </message>
+    <message>
+        <source>右键单击</source>
+        <translation>Right click</translation>
+    </message>
+    <message>
+        <source>删除指针下的标记</source>
+        <translation>Deletes the mark under the pointer</translation>
+    </message>
+    <message>
+        <source>取消选中，或放弃正在输入的文字</source>
+        <translation>Deselects, or drops the text you are typing</translation>
+    </message>
+    <message>
+        <source>单击别处</source>
+        <translation>Click elsewhere</translation>
+    </message>
+    <message>
+        <source>完成正在输入的文字</source>
+        <translation>Finishes the text you are typing</translation>
+    </message>
+    <message>
+        <source>Ctrl+滚轮</source>
+        <translation>Ctrl+wheel</translation>
+    </message>
+    <message>
+        <source>缩放文字或背景图片</source>
+        <translation>Scales text or the background picture</translation>
+    </message>
+    <message>
+        <source>Ctrl+拖动</source>
+        <translation>Ctrl+drag</translation>
+    </message>
+    <message>
+        <source>移动背景图片</source>
+        <translation>Moves the background picture</translation>
+    </message>
+    <message>
+        <source>把画面存为图片</source>
+        <translation>Saves the drawing as a picture</translation>
+    </message>
+</context>
+<context>
     <name>HotkeyPicker</name>
     <message>
         <source>按下键盘用于改变热键</source>
@@ -310,6 +508,17 @@
     <message>
         <source>菜单</source>
         <translation>Menu</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteWindows</name>
+    <message>
+        <source>帮助无法打开</source>
+        <translation>Help cannot be opened</translation>
+    </message>
+    <message>
+        <source>许可证无法打开</source>
+        <translation>The license cannot be opened</translation>
     </message>
 </context>
 <context>

@@ -108,6 +108,204 @@
     </message>
 </context>
 <context>
+    <name>HelpDesk</name>
+    <message>
+        <source>页面无法写入用户文件夹，请检查磁盘空间和文件夹权限</source>
+        <translation>ページをホームフォルダーに書き込めません。ディスクの空きとフォルダーの権限を確認してください。</translation>
+    </message>
+    <message>
+        <source>系统没有可用的浏览器，页面在 %1</source>
+        <translation>ブラウザーを起動できません。ページの場所: %1</translation>
+    </message>
+    <message>
+        <source>程序里没有 %1 的许可证，请重新安装</source>
+        <translation>プログラムに %1 のライセンスがありません。再インストールしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>HelpPage</name>
+    <message>
+        <source>zh-CN</source>
+        <extracomment>The tag of the language that this catalogue is in, such as en-US.</extracomment>
+        <translation>ja-JP</translation>
+    </message>
+    <message>
+        <source>这组键同时做几件事，可在设置里改</source>
+        <translation>複数の機能が同時に働くキーです。設定で変更できます</translation>
+    </message>
+    <message>
+        <source>脚本也能使用画笔，%1 列出全部选项。</source>
+        <translation>スクリプトからも使えます。%1 ですべてのオプションを表示します。</translation>
+    </message>
+    <message>
+        <source>Dravelin 帮助</source>
+        <translation>Dravelin ヘルプ</translation>
+    </message>
+    <message>
+        <source>工具</source>
+        <translation>ツール</translation>
+    </message>
+    <message>
+        <source>热键，随处可用</source>
+        <translation>どこでも使えるキー</translation>
+    </message>
+    <message>
+        <source>绘制时</source>
+        <translation>描画中</translation>
+    </message>
+    <message>
+        <source>命令行</source>
+        <translation>コマンドライン</translation>
+    </message>
+    <message>
+        <source>屏幕上的画笔：所有工具和热键</source>
+        <translation>画面に描くペン：すべてのツールとキー</translation>
+    </message>
+</context>
+<context>
+    <name>HelpSheet</name>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>按住拖动，或用方向键移动</source>
+        <translation>ドラッグまたは矢印キーで移動</translation>
+    </message>
+    <message>
+        <source>只留下这两个按钮，再次点击展开</source>
+        <translation>この 2 つのボタンだけを残し、もう一度クリックで展開</translation>
+    </message>
+    <message>
+        <source>画笔与鼠标</source>
+        <translation>ペンとマウス</translation>
+    </message>
+    <message>
+        <source>开始绘制，或把鼠标还给桌面；标记会保留</source>
+        <translation>描画を始める、またはマウスをデスクトップに返す。描いたものは残ります</translation>
+    </message>
+    <message>
+        <source>书写</source>
+        <translation>書く</translation>
+    </message>
+    <message>
+        <source>按住并拖动；文字在点击处输入</source>
+        <translation>ドラッグで描画。テキストはクリックした位置に入力</translation>
+    </message>
+    <message>
+        <source>形状</source>
+        <translation>図形</translation>
+    </message>
+    <message>
+        <source>从一角拖到另一角；每点一下，编号加一</source>
+        <translation>端から端までドラッグ。番号はクリックごとに 1 増えます</translation>
+    </message>
+    <message>
+        <source>划过的标记整个擦除；再次点击结束</source>
+        <translation>触れたものを丸ごと消去。もう一度クリックで終了</translation>
+    </message>
+    <message>
+        <source>撤销与恢复</source>
+        <translation>元に戻す・やり直し</translation>
+    </message>
+    <message>
+        <source>点击执行按钮上显示的一步</source>
+        <translation>クリックでボタンの絵の操作を実行</translation>
+    </message>
+    <message>
+        <source>删除所有标记和背景图片，无法撤销</source>
+        <translation>描いたものと背景画像をすべて削除。元に戻せません</translation>
+    </message>
+    <message>
+        <source>标记后面的底色或图片</source>
+        <translation>描いたものの背後の色または画像</translation>
+    </message>
+    <message>
+        <source>选一个区域，存为图片并复制到剪贴板</source>
+        <translation>範囲を選び、画像として保存しクリップボードにコピー</translation>
+    </message>
+    <message>
+        <source>选区域和声音，录成视频；再次点击停止</source>
+        <translation>範囲と音声を選んで録画。もう一度クリックで停止</translation>
+    </message>
+    <message>
+        <source>之后所画标记的颜色</source>
+        <translation>これから描くものの色</translation>
+    </message>
+    <message>
+        <source>之后所画标记的粗细</source>
+        <translation>これから描くものの太さ</translation>
+    </message>
+    <message>
+        <source>每隔一段时间，最早的一笔淡出</source>
+        <translation>一定時間ごとに最も古いものが消えます</translation>
+    </message>
+    <message>
+        <source>最新的一笔忽明忽暗，引人注意</source>
+        <translation>最新のものが明滅して目を引きます</translation>
+    </message>
+    <message>
+        <source>语言、热键和保存文件夹在设置里</source>
+        <translation>言語・キー・保存先は「設定」で変更</translation>
+    </message>
+    <message>
+        <source>Shift+拖动</source>
+        <translation>Shift+ドラッグ</translation>
+    </message>
+    <message>
+        <source>直线沿 45° 方向，矩形成正方形</source>
+        <translation>直線は 45° 単位、四角形は正方形に</translation>
+    </message>
+    <message>
+        <source>单击标记</source>
+        <translation>クリック</translation>
+    </message>
+    <message>
+        <source>选中它：拖动以移动，拉手柄以缩放</source>
+        <translation>描いたものを選択。ドラッグで移動、ハンドルで拡大・縮小</translation>
+    </message>
+    <message>
+        <source>右键单击</source>
+        <translation>右クリック</translation>
+    </message>
+    <message>
+        <source>删除指针下的标记</source>
+        <translation>ポインターの下のものを削除</translation>
+    </message>
+    <message>
+        <source>取消选中，或放弃正在输入的文字</source>
+        <translation>選択を解除、または入力中の文字を破棄</translation>
+    </message>
+    <message>
+        <source>单击别处</source>
+        <translation>別の場所をクリック</translation>
+    </message>
+    <message>
+        <source>完成正在输入的文字</source>
+        <translation>入力中の文字を確定</translation>
+    </message>
+    <message>
+        <source>Ctrl+滚轮</source>
+        <translation>Ctrl+ホイール</translation>
+    </message>
+    <message>
+        <source>缩放文字或背景图片</source>
+        <translation>文字または背景画像を拡大・縮小</translation>
+    </message>
+    <message>
+        <source>Ctrl+拖动</source>
+        <translation>Ctrl+ドラッグ</translation>
+    </message>
+    <message>
+        <source>移动背景图片</source>
+        <translation>背景画像を移動</translation>
+    </message>
+    <message>
+        <source>把画面存为图片</source>
+        <translation>描いたものを画像として保存</translation>
+    </message>
+</context>
+<context>
     <name>HotkeyPicker</name>
     <message>
         <source>按下键盘用于改变热键</source>
@@ -310,6 +508,17 @@
     <message>
         <source>菜单</source>
         <translation>メニュー</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteWindows</name>
+    <message>
+        <source>帮助无法打开</source>
+        <translation>ヘルプを開けません</translation>
+    </message>
+    <message>
+        <source>许可证无法打开</source>
+        <translation>ライセンスを開けません</translation>
     </message>
 </context>
 <context>

@@ -108,6 +108,204 @@
     </message>
 </context>
 <context>
+    <name>HelpDesk</name>
+    <message>
+        <source>页面无法写入用户文件夹，请检查磁盘空间和文件夹权限</source>
+        <translation>페이지를 사용자 폴더에 쓸 수 없습니다. 디스크 공간과 폴더 권한을 확인하세요.</translation>
+    </message>
+    <message>
+        <source>系统没有可用的浏览器，页面在 %1</source>
+        <translation>사용할 수 있는 브라우저가 없습니다. 페이지 위치: %1</translation>
+    </message>
+    <message>
+        <source>程序里没有 %1 的许可证，请重新安装</source>
+        <translation>프로그램에 %1 라이선스가 없습니다. 다시 설치하세요.</translation>
+    </message>
+</context>
+<context>
+    <name>HelpPage</name>
+    <message>
+        <source>zh-CN</source>
+        <extracomment>The tag of the language that this catalogue is in, such as en-US.</extracomment>
+        <translation>ko-KR</translation>
+    </message>
+    <message>
+        <source>这组键同时做几件事，可在设置里改</source>
+        <translation>여러 기능이 함께 동작하는 키입니다. 설정에서 바꿀 수 있습니다</translation>
+    </message>
+    <message>
+        <source>脚本也能使用画笔，%1 列出全部选项。</source>
+        <translation>스크립트에서도 쓸 수 있습니다. %1 명령이 모든 옵션을 보여 줍니다.</translation>
+    </message>
+    <message>
+        <source>Dravelin 帮助</source>
+        <translation>Dravelin 도움말</translation>
+    </message>
+    <message>
+        <source>工具</source>
+        <translation>도구</translation>
+    </message>
+    <message>
+        <source>热键，随处可用</source>
+        <translation>어디서나 쓰는 단축키</translation>
+    </message>
+    <message>
+        <source>绘制时</source>
+        <translation>그리는 동안</translation>
+    </message>
+    <message>
+        <source>命令行</source>
+        <translation>명령줄</translation>
+    </message>
+    <message>
+        <source>屏幕上的画笔：所有工具和热键</source>
+        <translation>화면 위의 펜: 모든 도구와 단축키</translation>
+    </message>
+</context>
+<context>
+    <name>HelpSheet</name>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1초</translation>
+    </message>
+    <message>
+        <source>按住拖动，或用方向键移动</source>
+        <translation>누른 채 끌거나 방향키로 옮깁니다</translation>
+    </message>
+    <message>
+        <source>只留下这两个按钮，再次点击展开</source>
+        <translation>이 두 단추만 남기고, 다시 누르면 펼칩니다</translation>
+    </message>
+    <message>
+        <source>画笔与鼠标</source>
+        <translation>펜과 마우스</translation>
+    </message>
+    <message>
+        <source>开始绘制，或把鼠标还给桌面；标记会保留</source>
+        <translation>그리기를 시작하거나 마우스를 바탕 화면에 돌려줍니다. 그린 것은 남습니다</translation>
+    </message>
+    <message>
+        <source>书写</source>
+        <translation>쓰기</translation>
+    </message>
+    <message>
+        <source>按住并拖动；文字在点击处输入</source>
+        <translation>누른 채 끌어서 그리고, 텍스트는 누른 자리에 입력합니다</translation>
+    </message>
+    <message>
+        <source>形状</source>
+        <translation>도형</translation>
+    </message>
+    <message>
+        <source>从一角拖到另一角；每点一下，编号加一</source>
+        <translation>끝에서 끝까지 끌고, 번호는 누를 때마다 하나씩 커집니다</translation>
+    </message>
+    <message>
+        <source>划过的标记整个擦除；再次点击结束</source>
+        <translation>닿는 표시를 통째로 지웁니다. 다시 누르면 끝납니다</translation>
+    </message>
+    <message>
+        <source>撤销与恢复</source>
+        <translation>실행 취소와 다시 실행</translation>
+    </message>
+    <message>
+        <source>点击执行按钮上显示的一步</source>
+        <translation>누르면 단추에 보이는 동작을 합니다</translation>
+    </message>
+    <message>
+        <source>删除所有标记和背景图片，无法撤销</source>
+        <translation>모든 표시와 배경 그림을 지웁니다. 되돌릴 수 없습니다</translation>
+    </message>
+    <message>
+        <source>标记后面的底色或图片</source>
+        <translation>표시 뒤의 색이나 그림</translation>
+    </message>
+    <message>
+        <source>选一个区域，存为图片并复制到剪贴板</source>
+        <translation>영역을 골라 그림으로 저장하고 클립보드에 복사합니다</translation>
+    </message>
+    <message>
+        <source>选区域和声音，录成视频；再次点击停止</source>
+        <translation>영역과 소리를 골라 녹화합니다. 다시 누르면 멈춥니다</translation>
+    </message>
+    <message>
+        <source>之后所画标记的颜色</source>
+        <translation>앞으로 그릴 것의 색</translation>
+    </message>
+    <message>
+        <source>之后所画标记的粗细</source>
+        <translation>앞으로 그릴 것의 굵기</translation>
+    </message>
+    <message>
+        <source>每隔一段时间，最早的一笔淡出</source>
+        <translation>일정 시간마다 가장 오래된 것이 사라집니다</translation>
+    </message>
+    <message>
+        <source>最新的一笔忽明忽暗，引人注意</source>
+        <translation>가장 새로운 것이 깜박여 눈길을 끕니다</translation>
+    </message>
+    <message>
+        <source>语言、热键和保存文件夹在设置里</source>
+        <translation>언어, 단축키, 저장 폴더는 설정에 있습니다</translation>
+    </message>
+    <message>
+        <source>Shift+拖动</source>
+        <translation>Shift+끌기</translation>
+    </message>
+    <message>
+        <source>直线沿 45° 方向，矩形成正方形</source>
+        <translation>직선은 45° 단위로, 사각형은 정사각형으로</translation>
+    </message>
+    <message>
+        <source>单击标记</source>
+        <translation>표시 누르기</translation>
+    </message>
+    <message>
+        <source>选中它：拖动以移动，拉手柄以缩放</source>
+        <translation>선택합니다. 끌면 옮기고, 조절점을 당기면 크기가 바뀝니다</translation>
+    </message>
+    <message>
+        <source>右键单击</source>
+        <translation>오른쪽 단추</translation>
+    </message>
+    <message>
+        <source>删除指针下的标记</source>
+        <translation>포인터 아래의 표시를 지웁니다</translation>
+    </message>
+    <message>
+        <source>取消选中，或放弃正在输入的文字</source>
+        <translation>선택을 풀거나 입력 중인 텍스트를 버립니다</translation>
+    </message>
+    <message>
+        <source>单击别处</source>
+        <translation>다른 곳 누르기</translation>
+    </message>
+    <message>
+        <source>完成正在输入的文字</source>
+        <translation>입력 중인 텍스트를 마칩니다</translation>
+    </message>
+    <message>
+        <source>Ctrl+滚轮</source>
+        <translation>Ctrl+휠</translation>
+    </message>
+    <message>
+        <source>缩放文字或背景图片</source>
+        <translation>텍스트나 배경 그림의 크기를 바꿉니다</translation>
+    </message>
+    <message>
+        <source>Ctrl+拖动</source>
+        <translation>Ctrl+끌기</translation>
+    </message>
+    <message>
+        <source>移动背景图片</source>
+        <translation>배경 그림을 옮깁니다</translation>
+    </message>
+    <message>
+        <source>把画面存为图片</source>
+        <translation>그린 것을 그림으로 저장합니다</translation>
+    </message>
+</context>
+<context>
     <name>HotkeyPicker</name>
     <message>
         <source>按下键盘用于改变热键</source>
@@ -310,6 +508,17 @@
     <message>
         <source>菜单</source>
         <translation>메뉴</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteWindows</name>
+    <message>
+        <source>帮助无法打开</source>
+        <translation>도움말을 열 수 없습니다</translation>
+    </message>
+    <message>
+        <source>许可证无法打开</source>
+        <translation>라이선스를 열 수 없습니다</translation>
     </message>
 </context>
 <context>

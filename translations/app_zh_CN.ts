@@ -108,6 +108,204 @@
     </message>
 </context>
 <context>
+    <name>HelpDesk</name>
+    <message>
+        <source>页面无法写入用户文件夹，请检查磁盘空间和文件夹权限</source>
+        <translation>页面无法写入用户文件夹，请检查磁盘空间和文件夹权限</translation>
+    </message>
+    <message>
+        <source>系统没有可用的浏览器，页面在 %1</source>
+        <translation>系统没有可用的浏览器，页面在 %1</translation>
+    </message>
+    <message>
+        <source>程序里没有 %1 的许可证，请重新安装</source>
+        <translation>程序里没有 %1 的许可证，请重新安装</translation>
+    </message>
+</context>
+<context>
+    <name>HelpPage</name>
+    <message>
+        <source>zh-CN</source>
+        <extracomment>The tag of the language that this catalogue is in, such as en-US.</extracomment>
+        <translation>zh-CN</translation>
+    </message>
+    <message>
+        <source>这组键同时做几件事，可在设置里改</source>
+        <translation>这组键同时做几件事，可在设置里改</translation>
+    </message>
+    <message>
+        <source>脚本也能使用画笔，%1 列出全部选项。</source>
+        <translation>脚本也能使用画笔，%1 列出全部选项。</translation>
+    </message>
+    <message>
+        <source>Dravelin 帮助</source>
+        <translation>Dravelin 帮助</translation>
+    </message>
+    <message>
+        <source>工具</source>
+        <translation>工具</translation>
+    </message>
+    <message>
+        <source>热键，随处可用</source>
+        <translation>热键，随处可用</translation>
+    </message>
+    <message>
+        <source>绘制时</source>
+        <translation>绘制时</translation>
+    </message>
+    <message>
+        <source>命令行</source>
+        <translation>命令行</translation>
+    </message>
+    <message>
+        <source>屏幕上的画笔：所有工具和热键</source>
+        <translation>屏幕上的画笔：所有工具和热键</translation>
+    </message>
+</context>
+<context>
+    <name>HelpSheet</name>
+    <message>
+        <source>%1 秒</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>按住拖动，或用方向键移动</source>
+        <translation>按住拖动，或用方向键移动</translation>
+    </message>
+    <message>
+        <source>只留下这两个按钮，再次点击展开</source>
+        <translation>只留下这两个按钮，再次点击展开</translation>
+    </message>
+    <message>
+        <source>画笔与鼠标</source>
+        <translation>画笔与鼠标</translation>
+    </message>
+    <message>
+        <source>开始绘制，或把鼠标还给桌面；标记会保留</source>
+        <translation>开始绘制，或把鼠标还给桌面；标记会保留</translation>
+    </message>
+    <message>
+        <source>书写</source>
+        <translation>书写</translation>
+    </message>
+    <message>
+        <source>按住并拖动；文字在点击处输入</source>
+        <translation>按住并拖动；文字在点击处输入</translation>
+    </message>
+    <message>
+        <source>形状</source>
+        <translation>形状</translation>
+    </message>
+    <message>
+        <source>从一角拖到另一角；每点一下，编号加一</source>
+        <translation>从一角拖到另一角；每点一下，编号加一</translation>
+    </message>
+    <message>
+        <source>划过的标记整个擦除；再次点击结束</source>
+        <translation>划过的标记整个擦除；再次点击结束</translation>
+    </message>
+    <message>
+        <source>撤销与恢复</source>
+        <translation>撤销与恢复</translation>
+    </message>
+    <message>
+        <source>点击执行按钮上显示的一步</source>
+        <translation>点击执行按钮上显示的一步</translation>
+    </message>
+    <message>
+        <source>删除所有标记和背景图片，无法撤销</source>
+        <translation>删除所有标记和背景图片，无法撤销</translation>
+    </message>
+    <message>
+        <source>标记后面的底色或图片</source>
+        <translation>标记后面的底色或图片</translation>
+    </message>
+    <message>
+        <source>选一个区域，存为图片并复制到剪贴板</source>
+        <translation>选一个区域，存为图片并复制到剪贴板</translation>
+    </message>
+    <message>
+        <source>选区域和声音，录成视频；再次点击停止</source>
+        <translation>选区域和声音，录成视频；再次点击停止</translation>
+    </message>
+    <message>
+        <source>之后所画标记的颜色</source>
+        <translation>之后所画标记的颜色</translation>
+    </message>
+    <message>
+        <source>之后所画标记的粗细</source>
+        <translation>之后所画标记的粗细</translation>
+    </message>
+    <message>
+        <source>每隔一段时间，最早的一笔淡出</source>
+        <translation>每隔一段时间，最早的一笔淡出</translation>
+    </message>
+    <message>
+        <source>最新的一笔忽明忽暗，引人注意</source>
+        <translation>最新的一笔忽明忽暗，引人注意</translation>
+    </message>
+    <message>
+        <source>语言、热键和保存文件夹在设置里</source>
+        <translation>语言、热键和保存文件夹在设置里</translation>
+    </message>
+    <message>
+        <source>Shift+拖动</source>
+        <translation>Shift+拖动</translation>
+    </message>
+    <message>
+        <source>直线沿 45° 方向，矩形成正方形</source>
+        <translation>直线沿 45° 方向，矩形成正方形</translation>
+    </message>
+    <message>
+        <source>单击标记</source>
+        <translation>单击标记</translation>
+    </message>
+    <message>
+        <source>选中它：拖动以移动，拉手柄以缩放</source>
+        <translation>选中它：拖动以移动，拉手柄以缩放</translation>
+    </message>
+    <message>
+        <source>右键单击</source>
+        <translation>右键单击</translation>
+    </message>
+    <message>
+        <source>删除指针下的标记</source>
+        <translation>删除指针下的标记</translation>
+    </message>
+    <message>
+        <source>取消选中，或放弃正在输入的文字</source>
+        <translation>取消选中，或放弃正在输入的文字</translation>
+    </message>
+    <message>
+        <source>单击别处</source>
+        <translation>单击别处</translation>
+    </message>
+    <message>
+        <source>完成正在输入的文字</source>
+        <translation>完成正在输入的文字</translation>
+    </message>
+    <message>
+        <source>Ctrl+滚轮</source>
+        <translation>Ctrl+滚轮</translation>
+    </message>
+    <message>
+        <source>缩放文字或背景图片</source>
+        <translation>缩放文字或背景图片</translation>
+    </message>
+    <message>
+        <source>Ctrl+拖动</source>
+        <translation>Ctrl+拖动</translation>
+    </message>
+    <message>
+        <source>移动背景图片</source>
+        <translation>移动背景图片</translation>
+    </message>
+    <message>
+        <source>把画面存为图片</source>
+        <translation>把画面存为图片</translation>
+    </message>
+</context>
+<context>
     <name>HotkeyPicker</name>
     <message>
         <source>按下键盘用于改变热键</source>
@@ -310,6 +508,17 @@
     <message>
         <source>菜单</source>
         <translation>菜单</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteWindows</name>
+    <message>
+        <source>帮助无法打开</source>
+        <translation>帮助无法打开</translation>
+    </message>
+    <message>
+        <source>许可证无法打开</source>
+        <translation>许可证无法打开</translation>
     </message>
 </context>
 <context>

@@ -1,4 +1,6 @@
 import QtQuick
+import Dravelin.Help
+import "Notices.js" as Notices
 
 /// The windows behind the palette's menu, and the update notice.
 Item {
@@ -7,8 +9,6 @@ Item {
     /// The palette window, which holds the open ones.
     required property var palette
     required property var settings
-
-    readonly property string helpUrl: "https://www.dravelin.example/help"
 
     function create(document, properties) {
         const component = Qt.createComponent(document);
@@ -26,10 +26,12 @@ Item {
         closeSettings();
         closeAbout();
         const window = create("qrc:/AboutWindow.qml",
-                              { helpUrl: helpUrl, interfaceVersion: palette.appVersion });
+                              { interfaceVersion: palette.appVersion });
         if (!window)
             return;
         palette.aboutWindow = window;
+        window.helpWanted.connect(openHelp);
+        window.licenceWanted.connect(openLicence);
         window.dismissed.connect(closeAbout);
         window.placeBeside(palette, palette.x + (palette.rightMargin <= 400 ? -400 : 60));
         window.show();
@@ -43,7 +45,16 @@ Item {
     }
 
     function openHelp() {
-        Qt.openUrlExternally(helpUrl);
+        tellFailure(qsTr("帮助无法打开"), help.openSheet());
+    }
+
+    function openLicence(name) {
+        tellFailure(qsTr("许可证无法打开"), help.openLicence(name));
+    }
+
+    function tellFailure(heading, reason) {
+        if (reason !== "")
+            Notices.show({ heading: heading, detail: reason, isFailure: true });
     }
 
     function openSettings() {
@@ -68,6 +79,8 @@ Item {
         window.raise();
         palette.raise();
     }
+
+    HelpDesk { id: help }
 
     /// How far the palette reaches into the window from the right.
     function coveredBy(palette, window) {

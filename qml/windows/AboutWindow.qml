@@ -7,15 +7,18 @@ import "Theme.js" as Theme
 PanelWindow {
     id: root
 
-    required property string helpUrl
     /// Version with which the program asks for updates.
     required property string interfaceVersion
 
     readonly property var licences: [
-        { name: "Qt 6", licence: "LGPL-3.0", link: "https://www.qt.io/licensing/open-source-lgpl-obligations" },
-        { name: "OpenSSL 3", licence: "Apache-2.0", link: "https://www.openssl.org/source/license.html" },
-        { name: "XCB", licence: "MIT", link: "https://xcb.freedesktop.org" }
+        { name: "Qt 6", licence: "LGPL-3.0", text: "LGPL-3.0" },
+        { name: "OpenSSL 3", licence: "Apache-2.0", text: "Apache-2.0" },
+        { name: "XCB", licence: "MIT", text: "XCB" }
     ]
+
+    signal helpWanted()
+    /// The user wants to read a licence, one of the texts of `licences`.
+    signal licenceWanted(string text)
 
     width: 380
     height: body.implicitHeight + stripHeight + 24
@@ -77,7 +80,7 @@ PanelWindow {
                 Layout.fillWidth: true
                 text: modelData.name
                 note: modelData.licence
-                link: modelData.link
+                onOpened: root.licenceWanted(modelData.text)
             }
         }
 
@@ -85,7 +88,7 @@ PanelWindow {
             Layout.alignment: Qt.AlignHCenter
             Layout.topMargin: 14
             text: qsTr("帮助")
-            onClicked: Qt.openUrlExternally(root.helpUrl)
+            onClicked: root.helpWanted()
         }
     }
 }

@@ -7,19 +7,16 @@ Item {
 
     required property string text
     required property string note
-    required property string link
 
-    function open() {
-        Qt.openUrlExternally(link);
-    }
+    signal opened()
 
     implicitHeight: label.implicitHeight + 8
     activeFocusOnTab: true
     Accessible.role: Accessible.Link
     Accessible.name: text + ", " + note
-    Accessible.onPressAction: root.open()
-    Keys.onReturnPressed: open()
-    Keys.onSpacePressed: open()
+    Accessible.onPressAction: root.opened()
+    Keys.onReturnPressed: opened()
+    Keys.onSpacePressed: opened()
 
     Rectangle {
         anchors { fill: parent; leftMargin: -6; rightMargin: -6 }
@@ -48,6 +45,6 @@ Item {
         anchors.fill: parent
         hoverEnabled: true
         cursorShape: Qt.PointingHandCursor
-        onClicked: root.open()
+        onClicked: root.opened()
     }
 }

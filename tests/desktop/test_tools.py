@@ -3,6 +3,7 @@
 import os
 
 import desktop
+from desktop.capturing import store_settings
 from desktop.marks import CENTRE, FROM, PAPER, RED, MarksTestCase
 from PIL import Image, ImageChops
 
@@ -163,17 +164,38 @@ class ToolsTest(MarksTestCase):
 
 class HelpTest(desktop.DesktopTestCase):
 
-    def test_help_opens_in_the_browser(self):
-        tools = os.path.join(self.desktop.folder, "tools")
-        os.makedirs(tools)
-        opened = os.path.join(tools, "opened")
-        browser = os.path.join(tools, "xdg-open")
-        with open(browser, "w", encoding="utf-8") as script:
-            script.write(f'#!/bin/sh\necho "$1" > "{opened}"\n')
-        os.chmod(browser, 0o755)
-        program = self.start(env={"PATH": f"{tools}:{os.environ['PATH']}"})
-        desktop.Palette(self.desktop, program).choose("menu", "help")
-        self.wait_for(lambda: os.path.exists(opened), "the browser to be started")
+    # Of a desktop without a browser.
+    expected_warning = r"^Unable to detect a launcher for"
+
+    def launch(self, path):
+        program = self.start(env={"PATH": path})
+        return program, desktop.Palette(self.desktop, program)
+
+    def test_help_and_licences_open_in_the_browser(self):
+        browser = desktop.Browser(self.desktop.folder)
+        store_settings(self.desktop.home, penKey="Ctrl+F6", appLanguage="ja_JP")
+        program, palette = self.launch(browser.path)
+        palette.choose("menu", "help")
+        help_page = browser.wait_for_file()
+        with open(help_page, encoding="utf-8") as file:
+            page = file.read()
+        self.assertIn('<html lang="ja-JP">', page)
+        self.assertIn("<kbd>Ctrl+F6</kbd>", page)
+
+        palette.choose("menu", "about")
+        about = program.window(title="情報")
+        self.wait_for(lambda: self.desktop.windows.active == about, "the keyboard")
+        self.desktop.keyboard.tap("Tab", "Tab", "Return")
+        with open(browser.wait_for_file(), encoding="utf-8") as file:
+            self.assertIn("GNU LESSER GENERAL PUBLIC LICENSE", file.read())
+        self.desktop.keyboard.tap("Tab", "Tab", "Tab", "Return")
+        self.assertEqual(browser.wait_for_file(), help_page)
+
+    def test_without_a_browser_the_notice_says_where_the_page_is(self):
+        program, palette = self.launch(self.desktop.home)
+        palette.choose("menu", "help")
+        notice = program.window(title=lambda title: "help.html" in title).title
+        self.assertTrue(os.path.exists(notice[notice.index("/"):]), notice)
 
 
 if __name__ == "__main__":

@@ -1,8 +1,8 @@
 """What tests of screenshots and recordings share: a folder, a file browser, the windows' buttons."""
 
 import os
-from urllib.parse import unquote
 
+from .browser import Browser
 from .case import DesktopTestCase
 from .palette import Palette
 from .screen import near
@@ -32,19 +32,11 @@ class CaptureTestCase(DesktopTestCase):
     def setUp(self):
         super().setUp()
         self.folder = os.path.join(self.desktop.home, "课件 recordings #1")
-        self.tools = os.path.join(self.desktop.folder, "tools")
-        self._opened = os.path.join(self.desktop.folder, "opened")
-        os.makedirs(self.tools)
-        browser = os.path.join(self.tools, "xdg-open")
-        with open(browser, "w", encoding="utf-8") as script:
-            script.write(f'#!/bin/sh\necho "$1" > {self._opened}.part\n'
-                         f"mv {self._opened}.part {self._opened}\n")
-        os.chmod(browser, 0o755)
+        self._browser = Browser(self.desktop.folder)
 
     def launch(self, folder=None, **env):
         store_settings(self.desktop.home, screenSavePath=folder or self.folder)
-        path = f"{self.tools}:{os.environ['PATH']}"
-        self.follow(self.start(scale=self.scale, env={"PATH": path, **env}))
+        self.follow(self.start(scale=self.scale, env={"PATH": self._browser.path, **env}))
 
     def follow(self, program):
         self.program = program
@@ -81,10 +73,7 @@ class CaptureTestCase(DesktopTestCase):
 
     def expect_opened_folder(self):
         """Waits until the file browser was given the folder."""
-        self.wait_for(lambda: os.path.exists(self._opened), "the file browser")
-        with open(self._opened, encoding="utf-8") as file:
-            self.assertEqual(unquote(file.read().strip()), "file://" + self.folder)
-        os.remove(self._opened)
+        self.assertEqual(self._browser.wait_for_file(), self.folder)
 
     def captures(self):
         """Paths of the files made so far."""
