@@ -188,7 +188,7 @@ class HelpTest(desktop.DesktopTestCase):
         self.desktop.keyboard.tap("Tab", "Tab", "Return")
         with open(browser.wait_for_file(), encoding="utf-8") as file:
             self.assertIn("GNU LESSER GENERAL PUBLIC LICENSE", file.read())
-        self.desktop.keyboard.tap("Tab", "Tab", "Tab", "Return")
+        self.desktop.keyboard.tap("Tab", "Tab", "Tab", "space")
         self.assertEqual(browser.wait_for_file(), help_page)
 
     def test_without_a_browser_the_notice_says_where_the_page_is(self):
