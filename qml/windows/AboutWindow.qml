@@ -80,7 +80,7 @@ PanelWindow {
                 Layout.fillWidth: true
                 text: modelData.name
                 note: modelData.licence
-                onOpened: root.licenceWanted(modelData.text)
+                onOpened: root.licenceWanted(modelData.text) // qmllint disable unqualified
             }
         }
 
