@@ -17,6 +17,7 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(os.path.dirname(HERE), "desktop"))
 
 import desktop  # noqa: E402 (needs the path above)
+import test_update  # noqa: E402
 from desktop import video  # noqa: E402
 from desktop.capturing import ACCENT, START  # noqa: E402
 from desktop.settingswindow import SettingsWindow  # noqa: E402
@@ -74,7 +75,8 @@ class StrangerTestCase(desktop.DesktopTestCase):
 
     def clear_program_folder(self):
         """The next test finds it as it was delivered."""
-        for pattern in ("draw_*", "screenshot_*", "recording_*", "*.mkv", "*.mp4", "config.ini"):
+        for pattern in ("draw_*", "screenshot_*", "recording_*", "*.mkv", "*.mp4", "config.ini",
+                        "updater", "started"):
             for path in glob.glob(os.path.join(self.program_folder, pattern)):
                 os.remove(path)
 
@@ -93,6 +95,9 @@ class StrangerTestCase(desktop.DesktopTestCase):
     @property
     def keeps_all_beside_itself(self):
         return KIND != "deb"
+
+    def ini_folder(self):
+        return self.program_folder if self.keeps_all_beside_itself else self.home + "/.config/korvath"
 
     def pictures_folder(self):
         return self.program_folder if self.keeps_all_beside_itself else self.home + "/Pictures"
@@ -143,8 +148,7 @@ class StrangerTest(StrangerTestCase):
     def test_draws_exports_captures_and_records(self):
         self.launch()
         self.use(self.pictures_folder(), self.videos_folder())
-        ini = self.program_folder if self.keeps_all_beside_itself else self.home + "/.config/korvath"
-        self.assertTrue(os.path.exists(os.path.join(ini, "config.ini")))
+        self.assertTrue(os.path.exists(os.path.join(self.ini_folder(), "config.ini")))
         owner = os.stat(self.home + "/.config/korvath/settings.conf")
         self.assertEqual(owner.st_uid, self.user)
         self.assertFalse(owner.st_mode & stat.S_IWOTH)
@@ -186,6 +190,28 @@ class StrangerTest(StrangerTestCase):
         self.assertIn(wanted, export.log())
         self.assertTrue(os.path.getsize(SYSTEM + wanted))
         self.assertEqual(self.enter("--no-such-thing").wait_for_end(), 2)
+
+    def test_an_update_is_installed_where_no_package_manager_does_that(self):
+        service = test_update.Service()
+        self.addCleanup(service.close)
+        folder = self.ini_folder()
+        os.makedirs(folder, exist_ok=True)
+        with open(os.path.join(folder, "config.ini"), "w", encoding="utf-8") as config:
+            config.write(f"[UPDATE]\nUpdateURL={service.address}/check\n")
+        self.launch()
+        notice = self.program.window(title=test_update.NOTICE)
+        # Where the one button says "install", or "close".
+        x, y = notice.geometry.width - 64, notice.geometry.height - 40
+        self.wait_for_pixel(*notice.at(x + 34, y), lambda seen: max(seen) - min(seen) > 60
+                            or KIND == "deb", "the notice to ask")
+        self.desktop.screen.save(os.path.join(desktop.artifacts_folder(), f"{KIND}-update.png"))
+        self.desktop.pointer.click(*notice.at(x, y))
+        if KIND == "deb":
+            self.wait_for(lambda: not self.program.windows(title=test_update.NOTICE), "it to close")
+            self.assertEqual(service.downloads, 0)
+            return
+        self.assertEqual(self.program.wait_for_end(), 0)
+        self.file_in(self.program_folder, "started")
 
     def test_version_and_help_need_no_display(self):
         for switch, text in (("--version", "3.2.0"), ("--help", "--export")):
