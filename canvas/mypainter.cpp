@@ -299,6 +299,11 @@ QString MyPainter::saveError() const
     return m_export.error();
 }
 
+bool MyPainter::savePictureTo(const QString &path)
+{
+    return m_export.saveTo(path, canvasSize(), pixelRatio());
+}
+
 void MyPainter::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
     QQuickPaintedItem::geometryChange(newGeometry, oldGeometry);

@@ -134,6 +134,9 @@ public:
     /// folder. Returns the path, or an empty text: then `saveError()` says why.
     Q_INVOKABLE QString savePicture();
     Q_INVOKABLE QString saveError() const;
+    /// Saves the same picture as this file, in the format that its suffix tells. False when that
+    /// fails: then `saveError()` says why.
+    Q_INVOKABLE bool savePictureTo(const QString &path);
 
 protected:
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;

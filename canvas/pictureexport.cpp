@@ -4,11 +4,14 @@
 #include "canvas/logtexts.h"
 #include "canvas/renderer.h"
 #include "elements/drawingelement.h"
+#include "platform/wholefile.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDebug>
 #include <QDir>
+#include <QFileDevice>
+#include <QFileInfo>
 #include <QImage>
 #include <QImageWriter>
 #include <QPainter>
@@ -20,6 +23,7 @@ namespace
 const QString kNamePrefix = QStringLiteral("/screenshot_");
 const QString kTimeFormat = QStringLiteral("yyyyMMdd_hhmmss");
 const QString kSuffix = QStringLiteral(".png");
+const QList<QByteArray> kTransparentFormats{ "png", "webp", "tif", "tiff" };
 
 /// One painter without a reset between the elements, unlike the screen: a stroke after an arrow is
 /// filled with the arrow's colour.
@@ -56,15 +60,35 @@ QString unusedPath(const QString &folder)
     return QDir::toNativeSeparators(path);
 }
 
-/// An empty text when the file was written, else what went wrong.
-QString writePicture(const QImage &image, const QString &path)
+QString notWritten(const QString &path, const QString &problem)
 {
-    QImageWriter writer(path);
-    if (writer.write(image))
-        return {};
-    const QString problem = writer.errorString();
-    QFile::remove(path); // half a picture helps nobody
-    return problem;
+    return QCoreApplication::translate("PictureExport", "无法写入 %1：%2")
+        .arg(QDir::toNativeSeparators(path), problem);
+}
+
+/// An empty text when the file was written, else what went wrong.
+QString writePicture(const QImage &image, const QString &path, const QByteArray &format = "png")
+{
+    return WholeFile::write(path, [&](QFileDevice &file) {
+        QImageWriter writer(&file, format);
+        if (writer.write(image))
+            return QString();
+        return file.error() == QFileDevice::NoError ? writer.errorString() : file.errorString();
+    });
+}
+
+QByteArray formatOf(const QString &path)
+{
+    const QByteArray suffix = QFileInfo(path).suffix().toLower().toLatin1();
+    return suffix.isEmpty() ? QByteArray("png") : suffix;
+}
+
+QImage onWhite(const QImage &image)
+{
+    QImage flat(image.size(), QImage::Format_RGB32);
+    flat.fill(Qt::white);
+    QPainter(&flat).drawImage(0, 0, image);
+    return flat;
 }
 
 } // namespace
@@ -75,19 +99,24 @@ void PictureExport::saveBesideExecutable(const QSize &size) const
         return;
     const QString path =
         QDir::toNativeSeparators(QCoreApplication::applicationDirPath() + baseName() + kSuffix);
-    if (paintInOneGo(m_elements, size).save(path))
+    if (writePicture(paintInOneGo(m_elements, size), path).isEmpty())
         qDebug() << CanvasLog::kImageSaved << path;
     else
         qDebug() << CanvasLog::kImageNotSaved;
 }
 
-QString PictureExport::save(const QSize &size, qreal ratio)
+bool PictureExport::canSave(const QSize &size)
 {
     m_error.clear();
-    if (m_elements.isEmpty() || size.isEmpty()) {
+    if (m_elements.isEmpty() || size.isEmpty())
         m_error = QCoreApplication::translate("PictureExport", "画布上没有内容，无需保存");
+    return m_error.isEmpty();
+}
+
+QString PictureExport::save(const QSize &size, qreal ratio)
+{
+    if (!canSave(size))
         return {};
-    }
     const QImage image = paintAsShown(m_elements, size, ratio);
     const QString folders[] = { QCoreApplication::applicationDirPath(),
         QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) };
@@ -102,7 +131,29 @@ QString PictureExport::save(const QSize &size, qreal ratio)
         }
     }
     qDebug() << CanvasLog::kImageNotSaved;
-    m_error = QCoreApplication::translate("PictureExport", "无法写入 %1：%2")
-                  .arg(QDir::toNativeSeparators(folders[1]), problem);
+    m_error = notWritten(folders[1], problem);
     return {};
+}
+
+bool PictureExport::saveTo(const QString &path, const QSize &size, qreal ratio)
+{
+    if (!canSave(size))
+        return false;
+    const QByteArray format = formatOf(path);
+    if (!QImageWriter::supportedImageFormats().contains(format)) {
+        m_error = notWritten(path,
+            QCoreApplication::translate("PictureExport", "不支持“%1”格式，请用 .png 或 .jpg")
+                .arg(QString::fromLatin1(format)));
+        return false;
+    }
+    const QImage image = paintAsShown(m_elements, size, ratio);
+    const QString problem =
+        writePicture(kTransparentFormats.contains(format) ? image : onWhite(image), path, format);
+    if (!problem.isEmpty()) {
+        qDebug() << CanvasLog::kImageNotSaved;
+        m_error = notWritten(path, problem);
+        return false;
+    }
+    qDebug() << CanvasLog::kImageSaved << path;
+    return true;
 }

@@ -5,7 +5,8 @@
 
 class ElementList;
 
-/// Saves the marks, without the screen beneath, as a PNG with a transparent background.
+/// Saves the marks, without the screen beneath, on a transparent background. A picture is there
+/// whole or not at all: a failure leaves nothing half and damages nothing older.
 class PictureExport
 {
 public:
@@ -19,10 +20,16 @@ public:
     /// pictures folder; never replaces a file. Returns the path, or an empty text: see `error()`.
     /// `size` is the canvas's in logical pixels, the picture has `ratio` pixels for each.
     QString save(const QSize &size, qreal ratio);
-    /// Why the latest `save` returned nothing, for people.
+    /// Writes what the screen shows to the file at `path`, replacing an older one. The suffix tells
+    /// the format, PNG without one; where a format knows no transparency, the background is white.
+    /// False when that fails: see `error()`.
+    [[nodiscard]] bool saveTo(const QString &path, const QSize &size, qreal ratio);
+    /// Why the latest `save` or `saveTo` wrote nothing, for people.
     [[nodiscard]] QString error() const { return m_error; }
 
 private:
+    [[nodiscard]] bool canSave(const QSize &size);
+
     const ElementList &m_elements;
     QString m_error;
 };

@@ -1,5 +1,6 @@
 #include "settings/screencapture.h"
 
+#include "platform/wholefile.h"
 #include "settings/logtexts.h"
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
@@ -8,9 +9,10 @@
 #include <QDateTime>
 #include <QDebug>
 #include <QDir>
+#include <QFileDevice>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPixmap>
-#include <QSaveFile>
 #include <QScreen>
 
 namespace
@@ -46,32 +48,53 @@ QScreen *primaryScreen(QString &failure)
     return screen;
 }
 
-bool liesOnScreen(const QRect &region, const QScreen &screen)
+bool liesOnScreen(const QPoint &topLeft, const QSize &size, const QScreen &screen)
 {
-    const QSize size = screen.geometry().size();
-    return region.x() >= 0 && region.y() >= 0 && region.x() + region.width() <= size.width()
-        && region.y() + region.height() <= size.height();
+    const QSize whole = screen.geometry().size();
+    const auto fits = [](int start, int length, int available) {
+        return start >= 0 && qint64{ start } + length <= available;
+    };
+    return fits(topLeft.x(), size.width(), whole.width())
+        && fits(topLeft.y(), size.height(), whole.height());
 }
 
-/// A full disk must not leave half a picture under the final name, nor damage the one before.
-bool writeJpeg(const QPixmap &picture, const QString &path)
+QByteArray formatOf(const QString &path)
 {
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && picture.save(&file, "JPG") && file.commit();
+    const QByteArray suffix = QFileInfo(path).suffix().toLower().toLatin1();
+    return suffix.isEmpty() ? QByteArray("jpg") : suffix;
 }
 
-ScreenCapture::Outcome save(const QPixmap &picture, const QString &directory)
+ScreenCapture::Outcome saveAs(const QPixmap &picture, const QString &path)
 {
-    const QString path = directory + QLatin1String("/draw_")
-        + QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_hhmmss"))
-        + QLatin1String(".jpg");
-    if (writeJpeg(picture, path)) {
+    const QByteArray format = formatOf(path);
+    const QString problem = WholeFile::write(path, [&](QFileDevice &file) {
+        if (picture.save(&file, format.constData())) {
+            return QString();
+        }
+        return file.error() == QFileDevice::NoError
+            ? ScreenCapture::tr("不支持“%1”格式，请用 .png 或 .jpg")
+                  .arg(QString::fromLatin1(format))
+            : file.errorString();
+    });
+    if (problem.isEmpty()) {
         qDebug() << LogTexts::kCaptureSaved << path;
         return { path, {} };
     }
     qWarning() << LogTexts::kCaptureNotSaved << path;
-    return { {},
-        ScreenCapture::tr("截图无法保存到 %1，请检查文件夹权限和磁盘空间").arg(directory) };
+    return { {}, problem };
+}
+
+ScreenCapture::Outcome saveIn(const QPixmap &picture, const QString &directory)
+{
+    ScreenCapture::Outcome outcome = saveAs(picture,
+        directory + QLatin1String("/draw_")
+            + QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_hhmmss"))
+            + QLatin1String(".jpg"));
+    if (!outcome.failure.isEmpty()) {
+        outcome.failure =
+            ScreenCapture::tr("截图无法保存到 %1，请检查文件夹权限和磁盘空间").arg(directory);
+    }
+    return outcome;
 }
 
 void copyToClipboard(const QPixmap &picture)
@@ -86,11 +109,11 @@ void copyToClipboard(const QPixmap &picture)
 
 } // namespace
 
-ScreenCapture::Outcome ScreenCapture::captureRegion(const QRect &region)
+ScreenCapture::Outcome ScreenCapture::captureRegion(const QPoint &topLeft, const QSize &size)
 {
     Outcome outcome;
-    if (region.width() < 1 || region.height() < 1) {
-        qWarning() << LogTexts::kInvalidSize << region.width() << region.height();
+    if (size.isEmpty()) {
+        qWarning() << LogTexts::kInvalidSize << size.width() << size.height();
         outcome.failure = tr("选择的区域太小，请重新选择");
         return outcome;
     }
@@ -102,22 +125,22 @@ ScreenCapture::Outcome ScreenCapture::captureRegion(const QRect &region)
     if (!screen) {
         return outcome;
     }
-    qDebug() << LogTexts::kCapturingRegion << region.x() << region.y() << region.width()
-             << region.height();
-    if (!liesOnScreen(region, *screen)) {
-        qWarning() << LogTexts::kRegionOutsideScreen << region.x() << region.y() << region.width()
-                   << region.height();
+    qDebug() << LogTexts::kCapturingRegion << topLeft.x() << topLeft.y() << size.width()
+             << size.height();
+    if (!liesOnScreen(topLeft, size, *screen)) {
+        qWarning() << LogTexts::kRegionOutsideScreen << topLeft.x() << topLeft.y() << size.width()
+                   << size.height();
         outcome.failure = tr("选择的区域超出主屏幕，请重新选择");
         return outcome;
     }
     const QPixmap picture =
-        screen->grabWindow(0, region.x(), region.y(), region.width(), region.height());
+        screen->grabWindow(0, topLeft.x(), topLeft.y(), size.width(), size.height());
     if (picture.isNull()) {
         qWarning() << LogTexts::kEmptyCapture;
         outcome.failure = tr("系统不允许读取屏幕，无法截图");
         return outcome;
     }
-    outcome = save(picture, directory);
+    outcome = saveIn(picture, directory);
     copyToClipboard(picture);
     return outcome;
 }
@@ -133,5 +156,25 @@ ScreenCapture::Outcome ScreenCapture::captureWholeScreen()
     if (!screen) {
         return outcome;
     }
-    return save(screen->grabWindow(0), directory);
+    return saveIn(screen->grabWindow(0), directory);
+}
+
+ScreenCapture::Outcome ScreenCapture::captureWholeScreenTo(const QString &path)
+{
+    Outcome outcome;
+    QScreen *screen = primaryScreen(outcome.failure);
+    if (!screen) {
+        return outcome;
+    }
+    const QPixmap picture = screen->grabWindow(0);
+    if (picture.isNull()) {
+        qWarning() << LogTexts::kEmptyCapture;
+        outcome.failure = tr("系统不允许读取屏幕，无法截图");
+        return outcome;
+    }
+    outcome = saveAs(picture, path);
+    if (!outcome.failure.isEmpty()) {
+        outcome.failure = tr("截图无法保存到 %1：%2").arg(path, outcome.failure);
+    }
+    return outcome;
 }

@@ -61,7 +61,12 @@ void SettingsClazz::captureScreen()
 
 void SettingsClazz::captureScreen(int x, int y, int width, int height)
 {
-    m_captureOutcome = ScreenCapture::captureRegion(QRect(x, y, width, height));
+    m_captureOutcome = ScreenCapture::captureRegion({ x, y }, { width, height });
+}
+
+void SettingsClazz::captureScreenTo(const QString &path)
+{
+    m_captureOutcome = ScreenCapture::captureWholeScreenTo(path);
 }
 
 QVariantMap SettingsClazz::captureResult() const

@@ -67,6 +67,9 @@ public:
     /// would move every method of the table.
     Q_INVOKABLE QVariantMap captureResult() const;
 
+    /// The whole primary screen into this file; `captureResult` tells the outcome.
+    Q_INVOKABLE void captureScreenTo(const QString &path);
+
 private:
     ScreenCapture::Outcome m_captureOutcome;
     QVariant m_settingsValue;

@@ -565,6 +565,10 @@
         <source>无法写入 %1：%2</source>
         <translation>%1 cannot be written: %2</translation>
     </message>
+    <message>
+        <source>不支持“%1”格式，请用 .png 或 .jpg</source>
+        <translation>The format “%1” is not supported; use .png or .jpg.</translation>
+    </message>
 </context>
 <context>
     <name>RecorderMessages</name>
@@ -685,6 +689,14 @@
     <message>
         <source>系统不允许读取屏幕，无法截图</source>
         <translation>No screenshot: the system does not let programs read the screen.</translation>
+    </message>
+    <message>
+        <source>截图无法保存到 %1：%2</source>
+        <translation>The screenshot cannot be saved to %1: %2</translation>
+    </message>
+    <message>
+        <source>不支持“%1”格式，请用 .png 或 .jpg</source>
+        <translation>The format “%1” is not supported; use .png or .jpg.</translation>
     </message>
 </context>
 <context>
@@ -991,6 +1003,13 @@
     <message>
         <source>开始录制</source>
         <translation>Record</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>这不是一个文件</source>
+        <translation>This is not a file</translation>
     </message>
 </context>
 <context>

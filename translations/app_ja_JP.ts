@@ -565,6 +565,10 @@
         <source>无法写入 %1：%2</source>
         <translation>%1 に書き込めません: %2</translation>
     </message>
+    <message>
+        <source>不支持“%1”格式，请用 .png 或 .jpg</source>
+        <translation>「%1」形式には対応していません。.png か .jpg を使ってください</translation>
+    </message>
 </context>
 <context>
     <name>RecorderMessages</name>
@@ -685,6 +689,14 @@
     <message>
         <source>系统不允许读取屏幕，无法截图</source>
         <translation>システムが画面の読み取りを許可していないため、スクリーンショットを撮れません。</translation>
+    </message>
+    <message>
+        <source>截图无法保存到 %1：%2</source>
+        <translation>スクリーンショットを %1 に保存できません: %2</translation>
+    </message>
+    <message>
+        <source>不支持“%1”格式，请用 .png 或 .jpg</source>
+        <translation>「%1」形式には対応していません。.png か .jpg を使ってください</translation>
     </message>
 </context>
 <context>
@@ -991,6 +1003,13 @@
     <message>
         <source>开始录制</source>
         <translation>録画開始</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>这不是一个文件</source>
+        <translation>これはファイルではありません</translation>
     </message>
 </context>
 <context>

@@ -565,6 +565,10 @@
         <source>无法写入 %1：%2</source>
         <translation>%1 에 쓸 수 없습니다: %2</translation>
     </message>
+    <message>
+        <source>不支持“%1”格式，请用 .png 或 .jpg</source>
+        <translation>“%1” 형식은 지원하지 않습니다. .png 또는 .jpg를 사용하세요</translation>
+    </message>
 </context>
 <context>
     <name>RecorderMessages</name>
@@ -685,6 +689,14 @@
     <message>
         <source>系统不允许读取屏幕，无法截图</source>
         <translation>시스템에서 화면 읽기를 허용하지 않아 스크린샷을 찍지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>截图无法保存到 %1：%2</source>
+        <translation>스크린샷을 %1에 저장할 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>不支持“%1”格式，请用 .png 或 .jpg</source>
+        <translation>“%1” 형식은 지원하지 않습니다. .png 또는 .jpg를 사용하세요</translation>
     </message>
 </context>
 <context>
@@ -991,6 +1003,13 @@
     <message>
         <source>开始录制</source>
         <translation>녹화 시작</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>这不是一个文件</source>
+        <translation>파일이 아닙니다</translation>
     </message>
 </context>
 <context>

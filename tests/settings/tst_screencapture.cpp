@@ -89,7 +89,8 @@ void TestScreenCapture::impossibleRegionsAreRefused()
                   .arg(width)
                   .arg(height);
         QTest::ignoreMessage(QtWarningMsg, warning.toUtf8().constData());
-        const ScreenCapture::Outcome outcome = ScreenCapture::captureRegion(region);
+        const ScreenCapture::Outcome outcome =
+            ScreenCapture::captureRegion(region.topLeft(), region.size());
         QVERIFY(outcome.savedPath.isEmpty());
         QVERIFY(!outcome.failure.isEmpty());
         QVERIFY(QGuiApplication::clipboard()->image().isNull());
@@ -108,7 +109,8 @@ void TestScreenCapture::aRegionHoldsThePixelsUnderIt()
     const QSize screen = pattern.screen()->geometry().size();
     const QRect region(QPoint(61, 31), QPoint(screen.width() - 1, screen.height() - 1));
     const QDateTime before = QDateTime::currentDateTime();
-    const ScreenCapture::Outcome outcome = ScreenCapture::captureRegion(region);
+    const ScreenCapture::Outcome outcome =
+        ScreenCapture::captureRegion(region.topLeft(), region.size());
     QVERIFY2(outcome.failure.isEmpty(), qPrintable(outcome.failure));
 
     const QFileInfo file(outcome.savedPath);
@@ -152,7 +154,7 @@ void TestScreenCapture::aFolderThatCannotBeCreatedIsTold()
 {
     savePicturesIn("/proc/pictures");
     QTest::ignoreMessage(QtWarningMsg, "无法创建截图保存目录： \"/proc/pictures\"");
-    const ScreenCapture::Outcome outcome = ScreenCapture::captureRegion({ 0, 0, 10, 10 });
+    const ScreenCapture::Outcome outcome = ScreenCapture::captureRegion({ 0, 0 }, { 10, 10 });
     QVERIFY(outcome.failure.contains("/proc/pictures"));
     QVERIFY(QGuiApplication::clipboard()->image().isNull());
 }
@@ -161,7 +163,7 @@ void TestScreenCapture::aFailedSaveStillFillsTheClipboard()
 {
     savePicturesIn("/proc");
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^截图保存失败： \"/proc/draw_.*jpg\"$"));
-    const ScreenCapture::Outcome outcome = ScreenCapture::captureRegion({ 0, 0, 10, 10 });
+    const ScreenCapture::Outcome outcome = ScreenCapture::captureRegion({ 0, 0 }, { 10, 10 });
     QVERIFY(outcome.savedPath.isEmpty());
     QVERIFY(outcome.failure.contains("/proc"));
     QVERIFY(!QGuiApplication::clipboard()->image().isNull());
