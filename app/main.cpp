@@ -10,6 +10,7 @@
 #include "app/warmup.h"
 #include "platform/overlay/overlaysurface.h"
 #include "platform/terminationrequest.h"
+#include "platform/userhome.h"
 #include "platform/windowsystem.h"
 #include "settings/settingsclazz.h"
 #include "settings/settingskeys.h"
@@ -83,6 +84,7 @@ Rendering chooseRendering(int &argc, char **argv)
 
 int main(int argc, char *argv[])
 {
+    UserHome::adopt();
     chooseWindowSystem();
     Startup::initialiseOpenSsl();
     Startup::requestTranslucentWindows();

@@ -4,6 +4,8 @@
 #include "canvas/logtexts.h"
 #include "canvas/renderer.h"
 #include "elements/drawingelement.h"
+#include "platform/programfolder.h"
+#include "platform/userhome.h"
 #include "platform/wholefile.h"
 
 #include <QCoreApplication>
@@ -58,6 +60,17 @@ QString unusedPath(const QString &folder)
     for (int i = 2; QFile::exists(path); ++i)
         path = QStringLiteral("%1_%2%3").arg(base).arg(i).arg(kSuffix);
     return QDir::toNativeSeparators(path);
+}
+
+/// Where pictures go, the best place first.
+QStringList folders()
+{
+    QStringList folders;
+    if (ProgramFolder::isWritable())
+        folders.append(ProgramFolder::path());
+    if (UserHome::exists())
+        folders.append(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+    return folders;
 }
 
 QString notWritten(const QString &path, const QString &problem)
@@ -118,20 +131,21 @@ QString PictureExport::save(const QSize &size, qreal ratio)
     if (!canSave(size))
         return {};
     const QImage image = paintAsShown(m_elements, size, ratio);
-    const QString folders[] = { QCoreApplication::applicationDirPath(),
-        QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) };
-    QString problem;
-    for (const QString &folder : folders) {
+    for (const QString &folder : folders()) {
         QDir().mkpath(folder);
         const QString path = unusedPath(folder);
-        problem = writePicture(image, path);
+        const QString problem = writePicture(image, path);
         if (problem.isEmpty()) {
+            m_error.clear();
             qDebug() << CanvasLog::kImageSaved << path;
             return path;
         }
+        m_error = notWritten(folder, problem);
     }
+    if (m_error.isEmpty())
+        m_error = QCoreApplication::translate(
+            "PictureExport", "程序文件夹不可写入，也找不到用户文件夹 (HOME)");
     qDebug() << CanvasLog::kImageNotSaved;
-    m_error = notWritten(folders[1], problem);
     return {};
 }
 

@@ -94,12 +94,14 @@ Rectangle {
 
                     width: Math.min(implicitWidth, root.textWidth)
                     text: root.text
+                    textFormat: Text.PlainText
                     wrapMode: Text.Wrap
                 }
                 FluText {
                     width: Math.min(implicitWidth, root.textWidth)
                     visible: text !== ""
                     text: root.moremsg
+                    textFormat: Text.PlainText // it may hold a path, whose name may look like markup
                     textColor: FluTheme.secondaryTextColor
                     wrapMode: Text.Wrap
                 }

@@ -17,6 +17,7 @@ T.ToolTip {
 
     contentItem: Text {
         text: root.text
+        textFormat: Text.PlainText
         font: root.font
         color: FluTheme.fontPrimaryColor
         wrapMode: Text.Wrap

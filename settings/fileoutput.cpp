@@ -1,11 +1,12 @@
 #include "settings/fileoutput.h"
 
+#include "platform/wholefile.h"
 #include "settings/logtexts.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
-#include <QFile>
+#include <QFileDevice>
 
 #include <optional>
 
@@ -36,20 +37,21 @@ std::optional<QByteArray> decode(const QByteArray &data)
 
 bool write(const QByteArray &payload, const QString &path)
 {
-    QFile file(path);
-    // Unbuffered, so that a full disk shows in the count instead of when the file is closed.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+    bool opened = false;
+    const QString problem = WholeFile::write(path, [&](QFileDevice &file) {
+        opened = true;
+        return file.write(payload) == payload.size() ? QString() : file.errorString();
+    });
+    if (!opened) {
         qWarning() << LogTexts::kCannotOpenFile << path << LogTexts::kCannotOpenFileError
-                   << file.errorString();
+                   << problem;
         return false;
     }
-    const qint64 written = file.write(payload);
-    if (written != payload.size()) {
+    if (!problem.isEmpty()) {
         qWarning() << LogTexts::kFileIncomplete << path;
         return false;
     }
-    file.close();
-    qDebug() << LogTexts::kFileSaved << path << "(" << written << "bytes)";
+    qDebug() << LogTexts::kFileSaved << path << "(" << payload.size() << "bytes)";
     return true;
 }
 

@@ -1,12 +1,10 @@
 #include "settings/inifile.h"
 
 #include "settings/logtexts.h"
-#include "settings/settingskeys.h"
+#include "settings/settingsfile.h"
 
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QDebug>
-#include <QDir>
 #include <QFile>
 #include <QSettings>
 #include <QStringDecoder>
@@ -42,19 +40,11 @@ IniFile::IniFile(QString path) : m_path(std::move(path))
 {
 }
 
-IniFile IniFile::deployment()
+std::optional<QString> IniFile::value(const QString &group, const QString &key) const
 {
-    return IniFile(QCoreApplication::applicationDirPath() + QDir::separator()
-        + QLatin1String(SettingsKeys::kIniFileName));
-}
-
-QString IniFile::value(const QString &group, const QString &key) const
-{
-    QSettings file(m_path, QSettings::IniFormat);
-    file.beginGroup(group);
-    const QString text = file.value(key, QString()).toString();
-    file.endGroup();
-    return text;
+    const QSettings file(m_path, QSettings::IniFormat);
+    const QString path = group + QLatin1Char('/') + key;
+    return file.contains(path) ? std::optional(file.value(path).toString()) : std::nullopt;
 }
 
 void IniFile::setValue(const QString &group, const QString &key, const QString &value) const
@@ -64,15 +54,18 @@ void IniFile::setValue(const QString &group, const QString &key, const QString &
         qWarning() << LogTexts::kBrokenIniFileNotCopied << m_path;
         return;
     }
-    QSettings file(m_path, QSettings::IniFormat);
-    file.beginGroup(group);
     // An unchanged value in a sound file is not written again: a rewrite drops the comments of
     // whoever deployed the file.
-    if (damaged || !file.contains(key) || file.value(key).toString() != value) {
-        file.setValue(key, value);
+    if (!damaged && this->value(group, key) == value) {
+        return;
     }
-    file.endGroup();
-    file.sync();
+    // Nobody is told: what is kept here is the program's own affair.
+    static_cast<void>(
+        SettingsFile::edit(QSettings(m_path, QSettings::IniFormat), [&](QSettings &file) {
+            file.beginGroup(group);
+            file.setValue(key, value);
+            file.endGroup();
+        }));
 }
 
 bool IniFile::isDamaged() const

@@ -1,10 +1,11 @@
 #include "settings/settingsclazz.h"
 
+#include "settings/deployment.h"
 #include "settings/directorychoice.h"
 #include "settings/fileoutput.h"
-#include "settings/inifile.h"
 #include "settings/languagecatalogues.h"
 #include "settings/logtexts.h"
+#include "settings/places.h"
 #include "settings/processservices.h"
 #include "settings/settingskeys.h"
 #include "settings/settingsstore.h"
@@ -37,9 +38,26 @@ QVariant SettingsClazz::getAllSettings()
 
 bool SettingsClazz::addSetting(const QString &key, const QVariant &value)
 {
-    const bool written = SettingsStore::write(key, value);
+    return changed(SettingsStore::write(key, value));
+}
+
+bool SettingsClazz::changed(bool written)
+{
+    m_storeProblem = written
+        ? QString()
+        : tr("无法写入 %1，请检查磁盘空间和文件夹的权限").arg(SettingsStore::path());
     emit settingsChanged();
     return written;
+}
+
+QString SettingsClazz::storeProblem() const
+{
+    return m_storeProblem;
+}
+
+QString SettingsClazz::recordingFolder()
+{
+    return Places::recordings(getSettingByKey(QLatin1String(SettingsKeys::kScreenSavePath)));
 }
 
 QString SettingsClazz::getSettingByKey(const QString &key)
@@ -49,9 +67,7 @@ QString SettingsClazz::getSettingByKey(const QString &key)
 
 bool SettingsClazz::removeSetting(const QString &key)
 {
-    const bool written = SettingsStore::remove(key);
-    emit settingsChanged();
-    return written;
+    return changed(SettingsStore::remove(key));
 }
 
 void SettingsClazz::captureScreen()
@@ -99,12 +115,12 @@ void SettingsClazz::restartApplication()
 
 QVariant SettingsClazz::getIniValue(const QString &group, const QString &key)
 {
-    return IniFile::deployment().value(group, key);
+    return Deployment::value(group, key);
 }
 
 void SettingsClazz::setIniValue(const QString &group, const QString &key, const QString &value)
 {
-    IniFile::deployment().setValue(group, key, value);
+    Deployment::setValue(group, key, value);
 }
 
 bool SettingsClazz::saveFile(const QByteArray &data, const QString &fileName)

@@ -40,7 +40,7 @@ public:
     Q_INVOKABLE void captureScreen();
     /// In logical pixels of the primary screen.
     Q_INVOKABLE void captureScreen(int x, int y, int width, int height);
-    /// Stores the directory that the user chose; empty when cancelled.
+    /// Stores the directory that the user chose, see `storeProblem`; empty when cancelled.
     Q_INVOKABLE QString selectSaveDirectory(const QString &currentPath = QString());
 
     Q_INVOKABLE void restartApplication();
@@ -70,7 +70,16 @@ public:
     /// The whole primary screen into this file; `captureResult` tells the outcome.
     Q_INVOKABLE void captureScreenTo(const QString &path);
 
+    /// The folder for recordings: the one for captures, unless nobody chose that.
+    Q_INVOKABLE QString recordingFolder();
+    /// What to tell the user when this object's latest change could not be stored; empty when it
+    /// was.
+    Q_INVOKABLE QString storeProblem() const;
+
 private:
+    bool changed(bool written);
+
+    QString m_storeProblem;
     ScreenCapture::Outcome m_captureOutcome;
     QVariant m_settingsValue;
 };

@@ -1,6 +1,9 @@
 #include "settings/settingsstore.h"
 
+#include "platform/userhome.h"
 #include "settings/logtexts.h"
+#include "settings/places.h"
+#include "settings/settingsfile.h"
 #include "settings/settingskeys.h"
 
 #include <QCoreApplication>
@@ -69,19 +72,24 @@ QVariantMap readAll(const QSettings &store)
     return settings;
 }
 
-void fillInSavePath(QVariantMap &settings, QSettings &store, const QString &applicationDirectory)
+/// Puts the default of the folder for captures into `settings` and returns what is to be stored.
+QVariantMap fillInSavePath(QVariantMap &settings)
 {
     const QString key = QLatin1String(SettingsKeys::kScreenSavePath);
-    if (!settings.value(key).toString().isEmpty()) {
-        return;
+    if (!Places::isUnset(settings.value(key).toString())) {
+        return {};
     }
-    qDebug() << LogTexts::kDefaultSavePath << applicationDirectory;
-    settings.insert(key, applicationDirectory);
-    store.setValue(key, applicationDirectory);
+    const QString folder = Places::captures();
+    qDebug() << LogTexts::kDefaultSavePath << folder;
+    settings.insert(key, folder);
+    // Without a folder to store, a later run may find one.
+    return folder.isEmpty() ? QVariantMap() : QVariantMap{ { key, folder } };
 }
 
-void fillInShortcuts(QVariantMap &settings, QSettings &store)
+/// The same for the shortcuts.
+QVariantMap fillInShortcuts(QVariantMap &settings)
 {
+    QVariantMap missing;
     for (const SettingsKeys::ShortcutDefault &shortcut : SettingsKeys::kShortcutDefaults) {
         const QString key = QLatin1String(shortcut.key);
         if (settings.value(key).isValid()) {
@@ -90,8 +98,24 @@ void fillInShortcuts(QVariantMap &settings, QSettings &store)
         const QString sequence = QLatin1String(shortcut.sequence);
         qDebug() << LogTexts::kDefaultShortcut << key << "=" << sequence;
         settings.insert(key, sequence);
-        store.setValue(key, sequence);
+        missing.insert(key, sequence);
     }
+    return missing;
+}
+
+bool edit(const std::function<void(QSettings &)> &change)
+{
+    return UserHome::hasConfiguration()
+        && SettingsFile::edit(UserStore(), change) == QSettings::NoError;
+}
+
+void storeAll(const QVariantMap &values)
+{
+    edit([&](QSettings &store) {
+        for (auto it = values.cbegin(); it != values.cend(); ++it) {
+            store.setValue(it.key(), it.value());
+        }
+    });
 }
 
 } // namespace
@@ -101,33 +125,33 @@ namespace SettingsStore
 
 QVariantMap loadAll()
 {
-    UserStore store;
     const QString applicationDirectory =
         QDir::toNativeSeparators(QCoreApplication::applicationDirPath());
     qDebug() << LogTexts::kApplicationDirectory << applicationDirectory;
     qDebug() << LogTexts::kLoadingSettings;
-    QVariantMap settings = readAll(store);
-    fillInSavePath(settings, store, applicationDirectory);
-    fillInShortcuts(settings, store);
-    store.sync();
+    QVariantMap settings = readAll(UserStore());
+    QVariantMap missing = fillInSavePath(settings);
+    missing.insert(fillInShortcuts(settings));
+    if (!missing.isEmpty()) {
+        storeAll(missing);
+    }
     qDebug() << LogTexts::kSettingsLoaded << settings;
     return settings;
 }
 
 bool write(const QString &key, const QVariant &value)
 {
-    UserStore store;
-    store.setValue(key, value);
-    store.sync();
-    return store.status() == QSettings::NoError;
+    return edit([&](QSettings &store) { store.setValue(key, value); });
 }
 
 bool remove(const QString &key)
 {
-    UserStore store;
-    store.remove(key);
-    store.sync();
-    return store.status() == QSettings::NoError;
+    return edit([&](QSettings &store) { store.remove(key); });
+}
+
+QString path()
+{
+    return QDir::toNativeSeparators(UserStore().fileName());
 }
 
 QVariant read(const QString &key)

@@ -4,7 +4,7 @@
 #include <QVariantMap>
 
 /// The per-user store. It is opened afresh by every function, so that each caller sees what the
-/// others wrote; nothing is kept in memory.
+/// others wrote; nothing is kept in memory. A write that fails leaves the store as it was.
 namespace SettingsStore
 {
 
@@ -17,6 +17,9 @@ bool write(const QString &key, const QVariant &value);
 
 /// Removes a key or a whole group. False when the store could not be written.
 bool remove(const QString &key);
+
+/// Where the store lies, for people: a file, or a path in the system's registry.
+[[nodiscard]] QString path();
 
 /// What is stored under `key`; invalid when nothing is.
 [[nodiscard]] QVariant read(const QString &key);

@@ -569,6 +569,10 @@
         <source>不支持“%1”格式，请用 .png 或 .jpg</source>
         <translation>The format “%1” is not supported; use .png or .jpg.</translation>
     </message>
+    <message>
+        <source>程序文件夹不可写入，也找不到用户文件夹 (HOME)</source>
+        <translation>The program&apos;s folder cannot be written, and there is no home folder (HOME).</translation>
+    </message>
 </context>
 <context>
     <name>RecorderMessages</name>
@@ -734,6 +738,10 @@
     <message>
         <source>选择保存目录</source>
         <translation>Choose the folder for screenshots</translation>
+    </message>
+    <message>
+        <source>无法写入 %1，请检查磁盘空间和文件夹的权限</source>
+        <translation>%1 cannot be written. Check the disk space and the folder&apos;s permissions.</translation>
     </message>
 </context>
 <context>
@@ -1082,10 +1090,6 @@
     <message>
         <source>设置无法保存</source>
         <translation>The setting cannot be saved</translation>
-    </message>
-    <message>
-        <source>请检查磁盘空间和用户文件夹的权限</source>
-        <translation>Check the disk space and the permissions of your home folder</translation>
     </message>
     <message>
         <source>选择的语言无效</source>

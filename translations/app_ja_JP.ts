@@ -569,6 +569,10 @@
         <source>不支持“%1”格式，请用 .png 或 .jpg</source>
         <translation>「%1」形式には対応していません。.png か .jpg を使ってください</translation>
     </message>
+    <message>
+        <source>程序文件夹不可写入，也找不到用户文件夹 (HOME)</source>
+        <translation>プログラムのフォルダーに書き込めず、ホームフォルダー (HOME) も見つかりません</translation>
+    </message>
 </context>
 <context>
     <name>RecorderMessages</name>
@@ -734,6 +738,10 @@
     <message>
         <source>选择保存目录</source>
         <translation>保存先フォルダーの選択</translation>
+    </message>
+    <message>
+        <source>无法写入 %1，请检查磁盘空间和文件夹的权限</source>
+        <translation>%1 に書き込めません。ディスクの空き容量とフォルダーの権限を確認してください</translation>
     </message>
 </context>
 <context>
@@ -1082,10 +1090,6 @@
     <message>
         <source>设置无法保存</source>
         <translation>設定を保存できません</translation>
-    </message>
-    <message>
-        <source>请检查磁盘空间和用户文件夹的权限</source>
-        <translation>ディスクの空きとホームフォルダーの権限を確認してください</translation>
     </message>
     <message>
         <source>选择的语言无效</source>

@@ -569,6 +569,10 @@
         <source>不支持“%1”格式，请用 .png 或 .jpg</source>
         <translation>“%1” 형식은 지원하지 않습니다. .png 또는 .jpg를 사용하세요</translation>
     </message>
+    <message>
+        <source>程序文件夹不可写入，也找不到用户文件夹 (HOME)</source>
+        <translation>프로그램 폴더에 쓸 수 없고 홈 폴더(HOME)도 찾을 수 없습니다</translation>
+    </message>
 </context>
 <context>
     <name>RecorderMessages</name>
@@ -734,6 +738,10 @@
     <message>
         <source>选择保存目录</source>
         <translation>저장 폴더 선택</translation>
+    </message>
+    <message>
+        <source>无法写入 %1，请检查磁盘空间和文件夹的权限</source>
+        <translation>%1에 쓸 수 없습니다. 디스크 공간과 폴더 권한을 확인하세요</translation>
     </message>
 </context>
 <context>
@@ -1082,10 +1090,6 @@
     <message>
         <source>设置无法保存</source>
         <translation>설정을 저장할 수 없습니다</translation>
-    </message>
-    <message>
-        <source>请检查磁盘空间和用户文件夹的权限</source>
-        <translation>디스크 공간과 홈 폴더의 권한을 확인하세요</translation>
     </message>
     <message>
         <source>选择的语言无效</source>

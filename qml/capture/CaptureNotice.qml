@@ -29,7 +29,7 @@ Window {
     Component.onDestruction: Notices.forget(root)
 
     screen: Application.screens[0]
-    title: detail === "" ? heading : heading + " · " + detail.replace("\n", " · ")
+    title: FileUrls.shown(detail === "" ? heading : heading + " · " + detail)
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint | Qt.WindowDoesNotAcceptFocus
     color: "transparent"
     width: 340
@@ -85,7 +85,7 @@ Window {
             PanelText {
                 width: parent.width
                 visible: text !== ""
-                text: root.detail
+                text: FileUrls.shown(root.detail)
                 color: Theme.inkMuted
                 wrapMode: Text.WrapAtWordBoundaryOrAnywhere
                 maximumLineCount: 6
@@ -94,7 +94,7 @@ Window {
             PanelText {
                 width: parent.width
                 visible: root.filePath !== ""
-                text: FileUrls.nameOf(root.filePath)
+                text: FileUrls.shown(FileUrls.nameOf(root.filePath))
                 wrapMode: Text.NoWrap
                 elide: Text.ElideMiddle
             }

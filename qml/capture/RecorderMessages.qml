@@ -36,7 +36,7 @@ QtObject {
     }
 
     function withRemains(reason, saved) {
-        return saved ? reason + "\n" + qsTr("已录制的部分没有丢失") : reason;
+        return saved ? reason + " · " + qsTr("已录制的部分没有丢失") : reason;
     }
 
     function reason(code, text) {

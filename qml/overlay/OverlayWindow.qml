@@ -3,6 +3,7 @@ import QtQuick.Window
 import Cpp.MyComponents
 import Dravelin.Platform
 import FluentUI
+import "FileUrls.js" as FileUrls
 import "OverlayLog.js" as OverlayLog
 
 // The full-screen transparent window on which people draw. The palette creates it once and then
@@ -79,9 +80,9 @@ Window {
         textEntry.submitAndClose();
         const path = myPainter.savePicture();
         if (path !== "")
-            infoBar.showSuccess(qsTr("图片已保存"), 4000, path);
+            infoBar.showSuccess(qsTr("图片已保存"), 4000, FileUrls.shown(path));
         else
-            infoBar.showError(qsTr("图片未能保存"), 8000, myPainter.saveError());
+            infoBar.showError(qsTr("图片未能保存"), 8000, FileUrls.shown(myPainter.saveError()));
     }
 
     title: qsTr("绘制窗口")
@@ -156,7 +157,7 @@ Window {
                 infoBar.showWarning(qsTr("Ctrl+鼠标滚轮:缩放图片"), 6000);
                 infoBar.showWarning(qsTr("Ctrl+鼠标移动:拖动图片"), 6000);
             }
-            onFailed: path => infoBar.showError(qsTr("无法打开图片"), 6000, path)
+            onFailed: path => infoBar.showError(qsTr("无法打开图片"), 6000, FileUrls.shown(path))
         }
 
         MyPainter {

@@ -8,6 +8,7 @@ Item {
     required property var palette
     /// The recorder, to end a recording that outlives its panel.
     required property var videoCapture
+    required property var settings
 
     readonly property string savePath: palette.hotKeys.screenSavePath ?? ""
     readonly property string idleIcon: "qrc:/icons/record.png"
@@ -40,7 +41,8 @@ Item {
         recordLoader.source = "";
         recordLoader.active = false;
         recordLoader.active = true;
-        nextTurn(() => recordLoader.setSource("qrc:/VideoShot.qml", { sPath: savePath }));
+        nextTurn(() => recordLoader.setSource("qrc:/VideoShot.qml",
+                                              { sPath: settings.recordingFolder() }));
     }
 
     Loader {

@@ -150,7 +150,12 @@ Window {
 
     FlyoutHost { id: flyouts; palette: root; toolNames: toolNames }
     ScreenShutter { id: screenShutter; settings: settingClazz }
-    CaptureWindows { id: captures; palette: root; videoCapture: videoCaptureObj }
+    CaptureWindows {
+        id: captures
+        palette: root
+        videoCapture: videoCaptureObj
+        settings: settingClazz
+    }
 
     ButtonToolTips { id: tip; palette: root; flyouts: flyouts }
 

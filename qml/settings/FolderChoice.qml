@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import FluentUI
+import "FileUrls.js" as FileUrls
 
 /// The folder for screenshots and recordings: typed, or chosen in a dialog.
 RowLayout {
@@ -13,14 +14,15 @@ RowLayout {
     signal browse()
 
     function finish() {
-        if (box.text === folder)
+        const typed = FileUrls.meant(box.text, folder);
+        if (typed === folder)
             return;
-        edited(box.text);
+        edited(typed);
         show(folder); // what is stored may be another folder than the one typed
     }
 
     function show(folder) {
-        box.text = folder;
+        box.text = FileUrls.shown(folder);
     }
 
     /// Room for the label, so that rows below each other line up.

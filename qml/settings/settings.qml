@@ -4,6 +4,7 @@ import QtQuick.Templates as T
 import QtQuick.Window
 import Cpp.MyComponents
 import FluentUI
+import "FileUrls.js" as FileUrls
 
 /// The settings window. Every change is stored at once and announced with `changeHotKey`.
 PanelWindow {
@@ -34,6 +35,7 @@ PanelWindow {
         { text: qsTr("圆形绘制"), key: "circleKey", fallback: "Ctrl+O" }
     ]
     readonly property int messageMs: 4000
+    readonly property int problemMs: 8000 // there is more to read
 
     function loadSettings() {
         hotKeys = JSON.parse(JSON.stringify(settingClazz.getAllSettings()));
@@ -41,19 +43,26 @@ PanelWindow {
         changeHotKey();
     }
 
+    /// The latest change is in effect nowhere when it could not be stored.
+    function tellProblem(heading) {
+        infoBar.showError(heading, problemMs, FileUrls.shown(settingClazz.storeProblem()));
+    }
+
     function saveKeyAndReload(key, value) {
         if (!settingClazz.addSetting(key, value))
-            infoBar.showError(qsTr("设置无法保存"), messageMs, qsTr("请检查磁盘空间和用户文件夹的权限"));
+            tellProblem(qsTr("设置无法保存"));
         console.log("保存设置:", key, value);
         loadSettings();
     }
 
     function browse() {
         const folder = settingClazz.selectSaveDirectory(hotKeys.screenSavePath ?? "");
-        if (folder !== "") {
-            loadSettings();
-            folderChoice.show(folder);
-        }
+        if (folder === "")
+            return;
+        if (settingClazz.storeProblem() !== "")
+            tellProblem(qsTr("设置无法保存"));
+        loadSettings();
+        folderChoice.show(hotKeys.screenSavePath);
     }
 
     function applyLanguage(code) {
@@ -63,7 +72,7 @@ PanelWindow {
             languageChoice.offered = false;
             settingClazz.restartApplication();
         } else {
-            infoBar.showError(qsTr("语言切换失败"), messageMs);
+            tellProblem(qsTr("语言切换失败"));
         }
     }
 

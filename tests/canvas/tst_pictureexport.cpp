@@ -1,21 +1,20 @@
 #include "canvas/logtexts.h"
 #include "tests/canvas/common/logrecorder.h"
 #include "tests/canvas/common/testcanvas.h"
+#include "tests/platform/smalldisk.h"
 
 #include <QDir>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <cstdio>
 
 namespace
 {
 
-const QString kLostFolder = QStringLiteral("--from-a-lost-folder");
+const QString kSave = QStringLiteral("--save");
 
 QStringList pictures(const QString &folder)
 {
@@ -28,18 +27,11 @@ void draw(TestCanvas &canvas)
     canvas.line(QPoint(10, 75), QPoint(190, 75));
 }
 
-/// Saves a picture after the program's own folder has become a file, in which nobody can write,
-/// and prints the path and the error.
-int saveFromLostFolder()
+/// Saves a picture and prints the path and the error.
+int saveAndTell()
 {
-    const QString folder = QCoreApplication::applicationDirPath();
-    QDir(folder).removeRecursively();
-    QFile file(folder);
-    if (!file.open(QFile::WriteOnly))
-        return 1;
     TestCanvas canvas;
     draw(canvas);
-    canvas.renderToImage();
     const QString path = canvas.savePicture();
     std::printf("%s\n%s\n", qPrintable(path), qPrintable(canvas.saveError()));
     return 0;
@@ -57,6 +49,7 @@ private slots:
     void picturesHoldTheMarksOnly();
     void savedIsWhatIsShown();
     void anotherFolderOrAReason();
+    void aNamedFileGetsWhatIsShown();
 
 private:
     const QString m_folder = QCoreApplication::applicationDirPath();
@@ -126,44 +119,81 @@ void TestPictureExport::savedIsWhatIsShown()
 
 void TestPictureExport::anotherFolderOrAReason()
 {
-    const QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkpath("home"));
-    QFile file(folder.filePath("file"));
-    QVERIFY(file.open(QFile::WriteOnly));
-    for (const char *home : { "home", "file" }) {
-        QFile::remove(folder.filePath("program")); // what became of it the time before
-        QVERIFY(QDir(folder.path()).mkpath("program"));
-        const QString program = folder.filePath("program/copy");
-        QVERIFY(QFile::copy(QCoreApplication::applicationFilePath(), program));
+    enum { FullDisk, ReadOnlyDisk, Packaged, FullDiskAndNoHome };
+    for (const int trouble : { FullDisk, ReadOnlyDisk, Packaged, FullDiskAndNoHome }) {
+        const QString self = QCoreApplication::applicationFilePath();
+        SmallDisk disk(QFileInfo(self).size() + (1 << 20));
+        QVERIFY(disk.isMounted());
+        QVERIFY(QFile::copy(self, disk.filePath("copy")));
+        if (trouble == Packaged)
+            QVERIFY(QFile(disk.filePath("packaged")).open(QFile::WriteOnly));
+        else if (trouble == ReadOnlyDisk)
+            QVERIFY(disk.refuseWrites());
+        else
+            disk.fill(0);
+        const QTemporaryDir folder;
+        QFile taken(folder.filePath("Pictures"));
+        QVERIFY(trouble != FullDiskAndNoHome || taken.open(QFile::WriteOnly));
 
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("HOME", folder.filePath(home));
+        environment.insert("HOME", folder.path());
         environment.insert("XDG_CONFIG_HOME", folder.filePath("config"));
         process.setProcessEnvironment(environment);
-        process.start(program, { kLostFolder });
+        process.start(disk.filePath("copy"), { kSave });
         QVERIFY(process.waitForFinished());
         QCOMPARE(process.exitCode(), 0);
         const QStringList answer =
             QString::fromLocal8Bit(process.readAllStandardOutput()).split('\n');
+        QVERIFY(pictures(disk.filePath("")).isEmpty());
         const QString problems = QString::fromLocal8Bit(process.readAllStandardError());
-        QVERIFY2(problems.contains(CanvasLog::kImageNotSaved), qPrintable(problems));
-        if (home == QByteArray("home")) {
-            QVERIFY2(answer.at(0).startsWith(folder.filePath("home/")), qPrintable(answer.at(0)));
+        QCOMPARE(problems.contains(CanvasLog::kImageNotSaved), trouble == FullDiskAndNoHome);
+        if (trouble == FullDiskAndNoHome) {
+            QVERIFY(answer.at(0).isEmpty());
+            QVERIFY2(answer.at(1).contains(folder.filePath("Pictures")), qPrintable(answer.at(1)));
+        } else {
+            QVERIFY2(
+                answer.at(0).startsWith(folder.filePath("Pictures/")), qPrintable(answer.at(0)));
             QCOMPARE(QImage(answer.at(0)).pixelColor(100, 75), QColor(Qt::blue));
             QVERIFY(answer.at(1).isEmpty());
-        } else {
-            QVERIFY(answer.at(0).isEmpty());
-            QVERIFY2(answer.at(1).contains(folder.filePath("file")), qPrintable(answer.at(1)));
         }
     }
 }
 
+void TestPictureExport::aNamedFileGetsWhatIsShown()
+{
+    SmallDisk disk(64 * SmallDisk::kPageBytes);
+    QVERIFY(disk.isMounted());
+    TestCanvas canvas;
+    QVERIFY(!canvas.savePictureTo(disk.filePath("empty.png")));
+    QVERIFY(!canvas.saveError().isEmpty());
+    draw(canvas);
+    const std::pair<const char *, QColor> rows[] = { { "a.png", Qt::transparent },
+        { "none", Qt::transparent }, { "a.JPG", Qt::white }, { "a.bmp", Qt::white } };
+    for (const auto &[name, ground] : rows) {
+        QVERIFY2(canvas.savePictureTo(disk.filePath(name)), qPrintable(canvas.saveError()));
+        const QImage saved(disk.filePath(name));
+        QCOMPARE(saved.pixelColor(100, 20), ground);
+        QCOMPARE(saved.size(), QSize(200, 150));
+    }
+    const QImage before(disk.filePath("a.png"));
+    canvas.clear();
+    canvas.line(QPoint(0, 0), QPoint(199, 149));
+    disk.fill(0);
+    for (const char *name : { "a.png", "b.png", "a.mp4", "missing/a.png" }) {
+        QVERIFY2(!canvas.savePictureTo(disk.filePath(name)), name);
+        QVERIFY2(canvas.saveError().contains(name), qPrintable(canvas.saveError()));
+    }
+    QCOMPARE(QImage(disk.filePath("a.png")), before);
+    QVERIFY(!QFile::exists(disk.filePath("b.png")));
+}
+
 int main(int argc, char *argv[])
 {
+    SmallDisk::prepare();
     QGuiApplication application(argc, argv);
-    if (QCoreApplication::arguments().contains(kLostFolder))
-        return saveFromLostFolder();
+    if (QCoreApplication::arguments().contains(kSave))
+        return saveAndTell();
     TestPictureExport test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -14,6 +14,8 @@ FOLDER_Y, LANGUAGE_Y, FIRST_PICKER_Y, PICKER_PITCH = 57, 104, 155, 55
 PICKERS = ("screenKey", "penKey", "closeDrawKey", "eraseKey", "textKey", "clearKey", "lineKey",
            "circleKey")
 BOX_X, BROWSE_X, TEXT_X, SAVE = 290, 310, 200, (310, 403)
+# Within a message, left of its text.
+MESSAGE, FAILURE = (60, 100), (253, 231, 233)
 CHOSEN_LANGUAGE, BLUE = (84, 205), (0, 102, 180)
 
 
@@ -134,6 +136,20 @@ class SettingsTest(desktop.DesktopTestCase):
         self.desktop.keyboard.type(chosen + "\n")
         self.program.wait_for_log(f'已选择并保存目录路径: "{chosen}"')
         self.program.wait_for_log(f'"screenSavePath":"{chosen}"')
+
+    def test_a_choice_that_cannot_be_stored_is_told(self):
+        os.makedirs(os.path.join(self.desktop.home, ".config/korvath/settings.conf"))
+        chosen = os.path.join(self.desktop.home, "chosen")
+        os.makedirs(chosen)
+        self.launch()
+        self.open_settings()
+        self.click(BROWSE_X, FOLDER_Y)
+        dialog = self.program.window(title="选择保存目录")
+        self.wait_for(lambda: self.desktop.windows.active == dialog, "the keyboard")
+        self.desktop.keyboard.tap("Home", "Shift+End")
+        self.desktop.keyboard.type(chosen + "\n")
+        self.wait_for_pixel(*self.window.at(*MESSAGE), lambda colour: desktop.near(colour, FAILURE),
+                            "the message that it could not be stored")
 
     def test_another_language_restarts_the_program(self):
         store_settings(self.desktop.home, lineKey="F8", undoKey="F9")

@@ -1,9 +1,8 @@
 #include "settings/inifile.h"
+#include "tests/platform/smalldisk.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
 
 namespace
 {
@@ -21,29 +20,38 @@ QByteArray read(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+QString value(const IniFile &file, const QString &group, const QString &key)
+{
+    return file.value(group, key).value_or("(none)");
+}
+
 } // namespace
 
 class TestIniFile : public QObject
 {
     Q_OBJECT
 
+public:
+    static void initMain() { SmallDisk::prepare(); }
+
 private slots:
     void valuesKeepTheirGroups();
     void aDamagedFileKeepsItsOtherGroups();
     void anUnchangedValueLeavesTheFileAlone();
     void anUnwritableFolderChangesNothing();
+    void aFullDiskLosesNothing();
 };
 
 void TestIniFile::valuesKeepTheirGroups()
 {
     const QTemporaryDir folder;
     const IniFile file(folder.filePath("config.ini"));
-    QCOMPARE(file.value("Network", "API"), QString());
+    QCOMPARE(value(file, "Network", "API"), "(none)");
     file.setValue("Network", "API", "https://服务.example/a?b=c;d");
     file.setValue("UPDATE", "API", "other");
-    QCOMPARE(file.value("Network", "API"), "https://服务.example/a?b=c;d");
-    QCOMPARE(file.value("UPDATE", "API"), "other");
-    QCOMPARE(file.value("UPDATE", "missing"), QString());
+    QCOMPARE(value(file, "Network", "API"), "https://服务.example/a?b=c;d");
+    QCOMPARE(value(file, "UPDATE", "API"), "other");
+    QCOMPARE(value(file, "UPDATE", "missing"), "(none)");
 }
 
 void TestIniFile::aDamagedFileKeepsItsOtherGroups()
@@ -57,13 +65,13 @@ void TestIniFile::aDamagedFileKeepsItsOtherGroups()
             + "[UPDATE]\nUpdateURL=https://b.example\n";
         write(path, content);
         const IniFile file(path);
-        QCOMPARE(file.value("Network", "API"), "https://a.example");
+        QCOMPARE(value(file, "Network", "API"), "https://a.example");
 
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("damaged.*config.ini.broken-"));
         file.setValue("APP", "opengl", "software");
-        QCOMPARE(file.value("APP", "opengl"), "software");
-        QCOMPARE(file.value("Network", "API"), "https://a.example");
-        QCOMPARE(file.value("UPDATE", "UpdateURL"), "https://b.example");
+        QCOMPARE(value(file, "APP", "opengl"), "software");
+        QCOMPARE(value(file, "Network", "API"), "https://a.example");
+        QCOMPARE(value(file, "UPDATE", "UpdateURL"), "https://b.example");
 
         const QDir directory(folder.path());
         const QStringList copies = directory.entryList({ "config.ini.broken-*" });
@@ -91,7 +99,27 @@ void TestIniFile::anUnwritableFolderChangesNothing()
 {
     const IniFile file("/proc/config.ini");
     file.setValue("APP", "opengl", "software");
-    QCOMPARE(file.value("APP", "opengl"), QString());
+    QCOMPARE(value(file, "APP", "opengl"), "(none)");
+}
+
+void TestIniFile::aFullDiskLosesNothing()
+{
+    SmallDisk disk(16 * SmallDisk::kPageBytes);
+    QVERIFY(disk.isMounted());
+    const IniFile file(disk.filePath("config.ini"));
+    file.setValue("UPDATE", "UpdateURL", "https://b.example");
+    // Somewhere there is room for a lock and for an empty file, but for nothing in it.
+    for (int pages = 0; pages < 8; ++pages) {
+        disk.fill(pages);
+        file.setValue("APP", "opengl", QString::number(pages));
+        QVERIFY(read(disk.filePath("config.ini")).contains("UpdateURL=https://b.example"));
+        const auto all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+        QCOMPARE(QDir(disk.filePath("")).entryList(all), QStringList({ "config.ini", "filler" }));
+        disk.empty();
+    }
+    file.setValue("APP", "opengl", "software");
+    QCOMPARE(value(file, "APP", "opengl"), "software");
+    QCOMPARE(value(file, "UPDATE", "UpdateURL"), "https://b.example");
 }
 
 QTEST_GUILESS_MAIN(TestIniFile)

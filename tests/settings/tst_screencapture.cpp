@@ -1,15 +1,19 @@
 #include "settings/screencapture.h"
 
+#include "tests/platform/smalldisk.h"
 #include "tests/settings/throwawaystore.h"
 
 #include <QClipboard>
 #include <QDateTime>
 #include <QGuiApplication>
 #include <QImage>
+#include <QImageReader>
 #include <QPainter>
 #include <QRasterWindow>
 #include <QScreen>
 #include <QSignalSpy>
+
+#include <limits>
 
 namespace
 {
@@ -46,7 +50,11 @@ class TestScreenCapture : public QObject
     Q_OBJECT
 
 public:
-    static void initMain() { ThrowawayStore::use(); }
+    static void initMain()
+    {
+        ThrowawayStore::use();
+        SmallDisk::prepare();
+    }
 
 private slots:
     void init();
@@ -55,6 +63,7 @@ private slots:
     void theWholeScreenLeavesTheClipboardAlone();
     void aFolderThatCannotBeCreatedIsTold();
     void aFailedSaveStillFillsTheClipboard();
+    void aNamedFileIsWrittenWholeOrNotAtAll();
 
 private:
     void savePicturesIn(const QString &folder);
@@ -77,20 +86,21 @@ void TestScreenCapture::savePicturesIn(const QString &folder)
 void TestScreenCapture::impossibleRegionsAreRefused()
 {
     const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
-    for (const QRect &region : { QRect(0, 0, 0, 10), QRect(0, 0, 10, -1), QRect(-1, 0, 10, 10),
-             QRect(0, -1, 10, 10), QRect(QPoint(1, 0), screen), QRect(QPoint(0, 1), screen) }) {
-        const auto [x, y, width, height] =
-            std::tuple(region.x(), region.y(), region.width(), region.height());
-        const QString warning = region.isEmpty()
-            ? QStringLiteral("无效的宽度或高度： %1 %2").arg(width).arg(height)
+    constexpr int kMost = std::numeric_limits<int>::max();
+    const std::pair<QPoint, QSize> regions[] = { { { 0, 0 }, { 0, 10 } }, { { 0, 0 }, { 10, -1 } },
+        { { -1, 0 }, { 10, 10 } }, { { 0, -1 }, { 10, 10 } }, { { 1, 0 }, screen },
+        { { 0, 1 }, screen }, { { kMost, 0 }, { 10, 10 } }, { { 10, 0 }, { kMost, 10 } },
+        { { 0, kMost }, { kMost, kMost } } };
+    for (const auto &[topLeft, size] : regions) {
+        const QString warning = size.isEmpty()
+            ? QStringLiteral("无效的宽度或高度： %1 %2").arg(size.width()).arg(size.height())
             : QStringLiteral("指定的区域超出屏幕范围： %1 %2 %3 %4")
-                  .arg(x)
-                  .arg(y)
-                  .arg(width)
-                  .arg(height);
+                  .arg(topLeft.x())
+                  .arg(topLeft.y())
+                  .arg(size.width())
+                  .arg(size.height());
         QTest::ignoreMessage(QtWarningMsg, warning.toUtf8().constData());
-        const ScreenCapture::Outcome outcome =
-            ScreenCapture::captureRegion(region.topLeft(), region.size());
+        const ScreenCapture::Outcome outcome = ScreenCapture::captureRegion(topLeft, size);
         QVERIFY(outcome.savedPath.isEmpty());
         QVERIFY(!outcome.failure.isEmpty());
         QVERIFY(QGuiApplication::clipboard()->image().isNull());
@@ -167,6 +177,30 @@ void TestScreenCapture::aFailedSaveStillFillsTheClipboard()
     QVERIFY(outcome.savedPath.isEmpty());
     QVERIFY(outcome.failure.contains("/proc"));
     QVERIFY(!QGuiApplication::clipboard()->image().isNull());
+}
+
+void TestScreenCapture::aNamedFileIsWrittenWholeOrNotAtAll()
+{
+    SmallDisk disk(1 << 20);
+    QVERIFY(disk.isMounted());
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    const QString path = disk.filePath("screen.png");
+    QCOMPARE(ScreenCapture::captureWholeScreenTo(path).failure, QString());
+    QImageReader reader(path);
+    QCOMPARE(reader.format(), QByteArray("png"));
+    const QImage picture = reader.read();
+    QCOMPARE(picture.size(), screen->geometry().size() * screen->devicePixelRatio());
+
+    disk.fill(0);
+    for (const QString &other : { path, disk.filePath("other.jpg"), disk.filePath("film.mp4") }) {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^截图保存失败： "));
+        const ScreenCapture::Outcome outcome = ScreenCapture::captureWholeScreenTo(other);
+        QVERIFY2(outcome.failure.contains(other), qPrintable(outcome.failure));
+        QVERIFY(outcome.savedPath.isEmpty());
+    }
+    QCOMPARE(QImage(path), picture);
+    QCOMPARE(
+        QDir(disk.filePath("")).entryList(QDir::Files), QStringList({ "filler", "screen.png" }));
 }
 
 QTEST_MAIN(TestScreenCapture)

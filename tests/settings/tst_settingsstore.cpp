@@ -1,4 +1,5 @@
 #include "settings/settingsstore.h"
+#include "tests/platform/smalldisk.h"
 #include "tests/settings/throwawaystore.h"
 
 #include <QPoint>
@@ -9,7 +10,11 @@ class TestSettingsStore : public QObject
     Q_OBJECT
 
 public:
-    static void initMain() { ThrowawayStore::use(); }
+    static void initMain()
+    {
+        ThrowawayStore::use();
+        SmallDisk::prepare();
+    }
 
 private slots:
     void init() { ThrowawayStore::clear(); }
@@ -17,6 +22,7 @@ private slots:
     void storedValuesWinOverDefaults();
     void groupsSizesAndPointsBecomeMaps();
     void aStoreThatCannotBeWrittenIsReported();
+    void aFullDiskKeepsWhatIsStored();
 };
 
 void TestSettingsStore::aFreshUserGetsSevenDefaultsThatAreStored()
@@ -78,6 +84,29 @@ void TestSettingsStore::aStoreThatCannotBeWrittenIsReported()
     QVERIFY(!SettingsStore::write("penKey", "F9"));
     QVERIFY(!SettingsStore::remove("penKey"));
     QCOMPARE(SettingsStore::loadAll().size(), 7);
+}
+
+void TestSettingsStore::aFullDiskKeepsWhatIsStored()
+{
+    SmallDisk disk(24 * SmallDisk::kPageBytes, ThrowawayStore::folder());
+    QVERIFY(disk.isMounted());
+    QVERIFY(SettingsStore::write("penKey", "F8"));
+    QVERIFY(SettingsStore::write("at", QPoint(-5, 6)));
+    // Somewhere there is room for a lock and for an empty file, but for nothing in it.
+    bool written = false;
+    for (int pages = 0; pages < 8; ++pages) {
+        disk.fill(pages);
+        const QString key = QStringLiteral("F%1").arg(pages);
+        written = SettingsStore::write("penKey", key);
+        const ThrowawayStore::Store store;
+        QCOMPARE(store.value("penKey").toString(), written ? key : "F8");
+        QCOMPARE(store.value("at"), QPoint(-5, 6));
+        disk.empty();
+        if (written) {
+            QVERIFY(SettingsStore::write("penKey", "F8"));
+        }
+    }
+    QVERIFY(written);
 }
 
 QTEST_MAIN(TestSettingsStore)
