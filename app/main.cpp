@@ -8,13 +8,17 @@
 #include "app/systemtray.h"
 #include "app/trayicon.h"
 #include "app/warmup.h"
+#include "platform/desktopnotice.h"
 #include "platform/overlay/overlaysurface.h"
+#include "platform/programfolder.h"
 #include "platform/terminationrequest.h"
 #include "platform/userhome.h"
 #include "platform/windowsystem.h"
+#include "settings/processservices.h"
 #include "settings/settingsclazz.h"
 #include "settings/settingskeys.h"
 #include "settings/translation.h"
+#include "settings/update/updateinstaller.h"
 
 #include <QApplication>
 #include <QQmlApplicationEngine>
@@ -27,8 +31,15 @@ constexpr int kExitNoTray = -1;
 constexpr int kExitNoWindow = -1;
 constexpr int kExitNameRefused = 1;
 
+void reportHalfUpdate()
+{
+    showDesktopNotice(QLatin1String(Identity::kDisplayName),
+        QCoreApplication::translate("main", "上一次更新没有完成，也无法恢复。请重新安装本程序。"));
+}
+
 /// Everything from here on belongs to the one instance that runs.
-int runInterface(QApplication &application, SingleInstance &instance)
+int runInterface(
+    QApplication &application, SingleInstance &instance, UpdateInstaller::Recovery recovery)
 {
     Startup::setIdentity();
     if (!waitForSystemTray()) {
@@ -47,6 +58,9 @@ int runInterface(QApplication &application, SingleInstance &instance)
     engine.addImportPath(QLatin1String(Identity::kQmlModulesInResources));
     const InterfaceLanguage interfaceLanguage;
     loadTranslation(&application, language);
+    if (recovery == UpdateInstaller::Recovery::Failed) {
+        reportHalfUpdate();
+    }
     Startup::publishToDocuments(*engine.rootContext());
 
     TrayIcon tray;
@@ -110,5 +124,10 @@ int main(int argc, char *argv[])
     case SingleInstance::Claim::Granted:
         break;
     }
-    return runInterface(application, instance);
+    // The program that runs here may be part of a half new one.
+    const UpdateInstaller::Recovery recovery = UpdateInstaller::recover(ProgramFolder::path());
+    if (recovery == UpdateInstaller::Recovery::Done && ProcessServices::startAnew()) {
+        return 0;
+    }
+    return runInterface(application, instance, recovery);
 }

@@ -28,6 +28,12 @@ void reportWhyNotStarted(const QString &program, const QStringList &arguments)
 
 } // namespace
 
+bool ProcessServices::startAnew()
+{
+    return QProcess::startDetached(
+        QCoreApplication::applicationFilePath(), { QLatin1String(kRestartSwitch) });
+}
+
 void ProcessServices::restartApplication()
 {
     qDebug() << LogTexts::kRestarting;

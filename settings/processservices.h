@@ -9,6 +9,10 @@ namespace ProcessServices
 /// Tells the new process that its predecessor may still be closing.
 inline constexpr char kRestartSwitch[] = "--restart";
 
+/// Starts a new instance of this executable, which this one gives way to by ending. False when it
+/// cannot be started.
+[[nodiscard]] bool startAnew();
+
 /// Starts a new instance of this executable and asks this one to quit. When the new one cannot be
 /// started this one stays; may then block for a second.
 void restartApplication();

@@ -872,20 +872,12 @@
 <context>
     <name>UpdateDownloader</name>
     <message>
-        <source>无法创建临时文件：%1</source>
-        <translation>A temporary file cannot be created: %1</translation>
-    </message>
-    <message>
         <source>“%1”的下载地址不安全：只允许 HTTPS。</source>
         <translation>The download address of “%1” is not safe: only HTTPS is allowed.</translation>
     </message>
     <message>
         <source>“%1”过大。</source>
         <translation>“%1” is too large.</translation>
-    </message>
-    <message>
-        <source>无法写入临时文件：%1</source>
-        <translation>The temporary file cannot be written: %1</translation>
     </message>
     <message>
         <source>“%1”下载失败：%2</source>
@@ -896,16 +888,79 @@
         <translation>“%1” does not match its checksum and was discarded.</translation>
     </message>
     <message>
-        <source>无法把“%1”写入程序文件夹，请检查写权限和剩余空间。</source>
-        <translation>“%1” cannot be written to the program&apos;s folder. Check the permissions and the free space.</translation>
-    </message>
-    <message>
         <source>找不到更新程序“%1”。</source>
         <translation>The updater “%1” is missing.</translation>
     </message>
     <message>
         <source>更新程序“%1”无法运行。</source>
         <translation>The updater “%1” cannot be run.</translation>
+    </message>
+    <message>
+        <source>下载时间过长。</source>
+        <translation>The download took too long.</translation>
+    </message>
+    <message>
+        <source>本程序由系统的软件包管理器安装，请用它来更新。</source>
+        <translation>This program was installed by the system&apos;s package manager. Update it there.</translation>
+    </message>
+    <message>
+        <source>程序文件夹 %1 不可写入，无法更新。请用有写入权限的账户运行本程序。</source>
+        <translation>The program&apos;s folder %1 cannot be written, so there can be no update. Run the program with an account that may write there.</translation>
+    </message>
+    <message>
+        <source>无法写入“%1”：%2。</source>
+        <translation>“%1” cannot be written: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInstaller</name>
+    <message>
+        <source>%1。已替换的文件无法恢复，请重新安装本程序。</source>
+        <translation>%1. Files that were replaced cannot be put back: install the program again.</translation>
+    </message>
+    <message>
+        <source>%1。没有更改任何文件。</source>
+        <translation>%1. No file was changed.</translation>
+    </message>
+    <message>
+        <source>无法安装“%1”：%2</source>
+        <translation>“%1” cannot be installed: %2</translation>
+    </message>
+    <message>
+        <source>这个位置上已有一个文件夹</source>
+        <translation>there is a folder in its place</translation>
+    </message>
+    <message>
+        <source>“%1”不是文件夹</source>
+        <translation>“%1” is not a folder</translation>
+    </message>
+    <message>
+        <source>它会离开程序文件夹</source>
+        <translation>it would leave the program&apos;s folder</translation>
+    </message>
+    <message>
+        <source>无法设置文件权限</source>
+        <translation>its permissions cannot be set</translation>
+    </message>
+    <message>
+        <source>无法写入程序文件夹：%1</source>
+        <translation>The program&apos;s folder cannot be written: %1</translation>
+    </message>
+    <message>
+        <source>无法写入程序文件夹</source>
+        <translation>The program&apos;s folder cannot be written</translation>
+    </message>
+    <message>
+        <source>另一个正在运行的本程序也在更新。</source>
+        <translation>Another running copy of this program is updating, too.</translation>
+    </message>
+    <message>
+        <source>无法写入程序文件夹 %1。</source>
+        <translation>The program&apos;s folder %1 cannot be written.</translation>
+    </message>
+    <message>
+        <source>上一次更新没有完成，也无法恢复。请重新安装本程序。</source>
+        <translation>The last update did not come to its end and cannot be taken back. Install the program again.</translation>
     </message>
 </context>
 <context>
@@ -950,6 +1005,10 @@
         <source>立即更新</source>
         <translation>Update now</translation>
     </message>
+    <message>
+        <source>知道了</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>UpdateOffer</name>
@@ -968,6 +1027,22 @@
     <message>
         <source>“%1”没有有效的 SHA-256 校验值。</source>
         <translation>“%1” has no valid SHA-256 checksum.</translation>
+    </message>
+    <message>
+        <source>文件名“%1”不允许使用：它由更新程序自己使用。</source>
+        <translation>The file name “%1” is not allowed: the update itself uses it.</translation>
+    </message>
+    <message>
+        <source>“%1”的大小无效。</source>
+        <translation>The size of “%1” makes no sense.</translation>
+    </message>
+    <message>
+        <source>更新过大。</source>
+        <translation>The update is too large.</translation>
+    </message>
+    <message>
+        <source>更新中“%1”出现了两次。</source>
+        <translation>“%1” is in the update twice.</translation>
     </message>
 </context>
 <context>
@@ -1037,6 +1112,10 @@
     <message>
         <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</source>
         <translation>This desktop has no system tray, so Dravelin cannot run. Turn on the notification area of your panel and start it again.</translation>
+    </message>
+    <message>
+        <source>上一次更新没有完成，也无法恢复。请重新安装本程序。</source>
+        <translation>The last update did not come to its end and cannot be taken back. Install the program again.</translation>
     </message>
 </context>
 <context>

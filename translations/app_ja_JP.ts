@@ -872,20 +872,12 @@
 <context>
     <name>UpdateDownloader</name>
     <message>
-        <source>无法创建临时文件：%1</source>
-        <translation>一時ファイルを作成できません: %1</translation>
-    </message>
-    <message>
         <source>“%1”的下载地址不安全：只允许 HTTPS。</source>
         <translation>「%1」のダウンロード先は安全ではありません。HTTPS のみ使用できます。</translation>
     </message>
     <message>
         <source>“%1”过大。</source>
         <translation>「%1」は大きすぎます。</translation>
-    </message>
-    <message>
-        <source>无法写入临时文件：%1</source>
-        <translation>一時ファイルに書き込めません: %1</translation>
     </message>
     <message>
         <source>“%1”下载失败：%2</source>
@@ -896,16 +888,79 @@
         <translation>「%1」はチェックサムと一致しないため破棄しました。</translation>
     </message>
     <message>
-        <source>无法把“%1”写入程序文件夹，请检查写权限和剩余空间。</source>
-        <translation>「%1」をプログラムのフォルダーに書き込めません。権限と空き容量を確認してください。</translation>
-    </message>
-    <message>
         <source>找不到更新程序“%1”。</source>
         <translation>更新プログラム「%1」が見つかりません。</translation>
     </message>
     <message>
         <source>更新程序“%1”无法运行。</source>
         <translation>更新プログラム「%1」を実行できません。</translation>
+    </message>
+    <message>
+        <source>下载时间过长。</source>
+        <translation>ダウンロードに時間がかかりすぎました。</translation>
+    </message>
+    <message>
+        <source>本程序由系统的软件包管理器安装，请用它来更新。</source>
+        <translation>このプログラムはシステムのパッケージマネージャーでインストールされました。そちらで更新してください。</translation>
+    </message>
+    <message>
+        <source>程序文件夹 %1 不可写入，无法更新。请用有写入权限的账户运行本程序。</source>
+        <translation>プログラムのフォルダー %1 に書き込めないため、更新できません。書き込み権限のあるアカウントで実行してください。</translation>
+    </message>
+    <message>
+        <source>无法写入“%1”：%2。</source>
+        <translation>「%1」に書き込めません: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInstaller</name>
+    <message>
+        <source>%1。已替换的文件无法恢复，请重新安装本程序。</source>
+        <translation>%1。置き換えたファイルを元に戻せません。プログラムを再インストールしてください。</translation>
+    </message>
+    <message>
+        <source>%1。没有更改任何文件。</source>
+        <translation>%1。ファイルは変更されていません。</translation>
+    </message>
+    <message>
+        <source>无法安装“%1”：%2</source>
+        <translation>「%1」をインストールできません: %2</translation>
+    </message>
+    <message>
+        <source>这个位置上已有一个文件夹</source>
+        <translation>その場所にはフォルダーがあります</translation>
+    </message>
+    <message>
+        <source>“%1”不是文件夹</source>
+        <translation>「%1」はフォルダーではありません</translation>
+    </message>
+    <message>
+        <source>它会离开程序文件夹</source>
+        <translation>プログラムのフォルダーの外に出ます</translation>
+    </message>
+    <message>
+        <source>无法设置文件权限</source>
+        <translation>ファイルの権限を設定できません</translation>
+    </message>
+    <message>
+        <source>无法写入程序文件夹：%1</source>
+        <translation>プログラムのフォルダーに書き込めません: %1</translation>
+    </message>
+    <message>
+        <source>无法写入程序文件夹</source>
+        <translation>プログラムのフォルダーに書き込めません</translation>
+    </message>
+    <message>
+        <source>另一个正在运行的本程序也在更新。</source>
+        <translation>実行中の別の本プログラムも更新中です。</translation>
+    </message>
+    <message>
+        <source>无法写入程序文件夹 %1。</source>
+        <translation>プログラムのフォルダー %1 に書き込めません。</translation>
+    </message>
+    <message>
+        <source>上一次更新没有完成，也无法恢复。请重新安装本程序。</source>
+        <translation>前回の更新が完了しておらず、元に戻せません。プログラムを再インストールしてください。</translation>
     </message>
 </context>
 <context>
@@ -950,6 +1005,10 @@
         <source>立即更新</source>
         <translation>今すぐ更新</translation>
     </message>
+    <message>
+        <source>知道了</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>UpdateOffer</name>
@@ -968,6 +1027,22 @@
     <message>
         <source>“%1”没有有效的 SHA-256 校验值。</source>
         <translation>「%1」には有効な SHA-256 チェックサムがありません。</translation>
+    </message>
+    <message>
+        <source>文件名“%1”不允许使用：它由更新程序自己使用。</source>
+        <translation>ファイル名「%1」は使えません。更新処理自体が使用します。</translation>
+    </message>
+    <message>
+        <source>“%1”的大小无效。</source>
+        <translation>「%1」のサイズが正しくありません。</translation>
+    </message>
+    <message>
+        <source>更新过大。</source>
+        <translation>更新が大きすぎます。</translation>
+    </message>
+    <message>
+        <source>更新中“%1”出现了两次。</source>
+        <translation>更新に「%1」が二度含まれています。</translation>
     </message>
 </context>
 <context>
@@ -1037,6 +1112,10 @@
     <message>
         <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</source>
         <translation>デスクトップにシステムトレイがないため、実行できません。パネルの通知領域を有効にしてから、もう一度起動してください。</translation>
+    </message>
+    <message>
+        <source>上一次更新没有完成，也无法恢复。请重新安装本程序。</source>
+        <translation>前回の更新が完了しておらず、元に戻せません。プログラムを再インストールしてください。</translation>
     </message>
 </context>
 <context>

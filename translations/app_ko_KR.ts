@@ -872,20 +872,12 @@
 <context>
     <name>UpdateDownloader</name>
     <message>
-        <source>无法创建临时文件：%1</source>
-        <translation>임시 파일을 만들 수 없습니다: %1</translation>
-    </message>
-    <message>
         <source>“%1”的下载地址不安全：只允许 HTTPS。</source>
         <translation>“%1”의 다운로드 주소가 안전하지 않습니다. HTTPS만 사용할 수 있습니다.</translation>
     </message>
     <message>
         <source>“%1”过大。</source>
         <translation>“%1” 파일이 너무 큽니다.</translation>
-    </message>
-    <message>
-        <source>无法写入临时文件：%1</source>
-        <translation>임시 파일에 쓸 수 없습니다: %1</translation>
     </message>
     <message>
         <source>“%1”下载失败：%2</source>
@@ -896,16 +888,79 @@
         <translation>“%1”이(가) 체크섬과 일치하지 않아 삭제했습니다.</translation>
     </message>
     <message>
-        <source>无法把“%1”写入程序文件夹，请检查写权限和剩余空间。</source>
-        <translation>“%1”을(를) 프로그램 폴더에 쓸 수 없습니다. 권한과 여유 공간을 확인하세요.</translation>
-    </message>
-    <message>
         <source>找不到更新程序“%1”。</source>
         <translation>업데이트 프로그램 “%1”을(를) 찾을 수 없습니다.</translation>
     </message>
     <message>
         <source>更新程序“%1”无法运行。</source>
         <translation>업데이트 프로그램 “%1”을(를) 실행할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>下载时间过长。</source>
+        <translation>다운로드가 너무 오래 걸렸습니다.</translation>
+    </message>
+    <message>
+        <source>本程序由系统的软件包管理器安装，请用它来更新。</source>
+        <translation>이 프로그램은 시스템의 패키지 관리자가 설치했습니다. 그곳에서 업데이트하세요.</translation>
+    </message>
+    <message>
+        <source>程序文件夹 %1 不可写入，无法更新。请用有写入权限的账户运行本程序。</source>
+        <translation>프로그램 폴더 %1에 쓸 수 없어 업데이트할 수 없습니다. 쓰기 권한이 있는 계정으로 실행하세요.</translation>
+    </message>
+    <message>
+        <source>无法写入“%1”：%2。</source>
+        <translation>“%1”에 쓸 수 없습니다: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInstaller</name>
+    <message>
+        <source>%1。已替换的文件无法恢复，请重新安装本程序。</source>
+        <translation>%1. 바뀐 파일을 되돌릴 수 없습니다. 프로그램을 다시 설치하세요.</translation>
+    </message>
+    <message>
+        <source>%1。没有更改任何文件。</source>
+        <translation>%1. 변경된 파일은 없습니다.</translation>
+    </message>
+    <message>
+        <source>无法安装“%1”：%2</source>
+        <translation>“%1”을(를) 설치할 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>这个位置上已有一个文件夹</source>
+        <translation>그 자리에 폴더가 있습니다</translation>
+    </message>
+    <message>
+        <source>“%1”不是文件夹</source>
+        <translation>“%1”은(는) 폴더가 아닙니다</translation>
+    </message>
+    <message>
+        <source>它会离开程序文件夹</source>
+        <translation>프로그램 폴더를 벗어납니다</translation>
+    </message>
+    <message>
+        <source>无法设置文件权限</source>
+        <translation>파일 권한을 설정할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>无法写入程序文件夹：%1</source>
+        <translation>프로그램 폴더에 쓸 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>无法写入程序文件夹</source>
+        <translation>프로그램 폴더에 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>另一个正在运行的本程序也在更新。</source>
+        <translation>실행 중인 다른 프로그램도 업데이트하고 있습니다.</translation>
+    </message>
+    <message>
+        <source>无法写入程序文件夹 %1。</source>
+        <translation>프로그램 폴더 %1에 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>上一次更新没有完成，也无法恢复。请重新安装本程序。</source>
+        <translation>지난 업데이트가 끝나지 않았고 되돌릴 수도 없습니다. 프로그램을 다시 설치하세요.</translation>
     </message>
 </context>
 <context>
@@ -950,6 +1005,10 @@
         <source>立即更新</source>
         <translation>지금 업데이트</translation>
     </message>
+    <message>
+        <source>知道了</source>
+        <translation>확인</translation>
+    </message>
 </context>
 <context>
     <name>UpdateOffer</name>
@@ -968,6 +1027,22 @@
     <message>
         <source>“%1”没有有效的 SHA-256 校验值。</source>
         <translation>“%1”에 올바른 SHA-256 체크섬이 없습니다.</translation>
+    </message>
+    <message>
+        <source>文件名“%1”不允许使用：它由更新程序自己使用。</source>
+        <translation>파일 이름 “%1”은(는) 사용할 수 없습니다. 업데이트 자체가 사용합니다.</translation>
+    </message>
+    <message>
+        <source>“%1”的大小无效。</source>
+        <translation>“%1”의 크기가 올바르지 않습니다.</translation>
+    </message>
+    <message>
+        <source>更新过大。</source>
+        <translation>업데이트가 너무 큽니다.</translation>
+    </message>
+    <message>
+        <source>更新中“%1”出现了两次。</source>
+        <translation>업데이트에 “%1”이(가) 두 번 들어 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -1037,6 +1112,10 @@
     <message>
         <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</source>
         <translation>데스크톱에 시스템 트레이가 없어 실행할 수 없습니다. 패널의 알림 영역을 켠 뒤 다시 실행하세요.</translation>
+    </message>
+    <message>
+        <source>上一次更新没有完成，也无法恢复。请重新安装本程序。</source>
+        <translation>지난 업데이트가 끝나지 않았고 되돌릴 수도 없습니다. 프로그램을 다시 설치하세요.</translation>
     </message>
 </context>
 <context>

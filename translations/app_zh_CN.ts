@@ -872,20 +872,12 @@
 <context>
     <name>UpdateDownloader</name>
     <message>
-        <source>无法创建临时文件：%1</source>
-        <translation>无法创建临时文件：%1</translation>
-    </message>
-    <message>
         <source>“%1”的下载地址不安全：只允许 HTTPS。</source>
         <translation>“%1”的下载地址不安全：只允许 HTTPS。</translation>
     </message>
     <message>
         <source>“%1”过大。</source>
         <translation>“%1”过大。</translation>
-    </message>
-    <message>
-        <source>无法写入临时文件：%1</source>
-        <translation>无法写入临时文件：%1</translation>
     </message>
     <message>
         <source>“%1”下载失败：%2</source>
@@ -896,16 +888,79 @@
         <translation>“%1”与校验值不符，已丢弃。</translation>
     </message>
     <message>
-        <source>无法把“%1”写入程序文件夹，请检查写权限和剩余空间。</source>
-        <translation>无法把“%1”写入程序文件夹，请检查写权限和剩余空间。</translation>
-    </message>
-    <message>
         <source>找不到更新程序“%1”。</source>
         <translation>找不到更新程序“%1”。</translation>
     </message>
     <message>
         <source>更新程序“%1”无法运行。</source>
         <translation>更新程序“%1”无法运行。</translation>
+    </message>
+    <message>
+        <source>下载时间过长。</source>
+        <translation>下载时间过长。</translation>
+    </message>
+    <message>
+        <source>本程序由系统的软件包管理器安装，请用它来更新。</source>
+        <translation>本程序由系统的软件包管理器安装，请用它来更新。</translation>
+    </message>
+    <message>
+        <source>程序文件夹 %1 不可写入，无法更新。请用有写入权限的账户运行本程序。</source>
+        <translation>程序文件夹 %1 不可写入，无法更新。请用有写入权限的账户运行本程序。</translation>
+    </message>
+    <message>
+        <source>无法写入“%1”：%2。</source>
+        <translation>无法写入“%1”：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateInstaller</name>
+    <message>
+        <source>%1。已替换的文件无法恢复，请重新安装本程序。</source>
+        <translation>%1。已替换的文件无法恢复，请重新安装本程序。</translation>
+    </message>
+    <message>
+        <source>%1。没有更改任何文件。</source>
+        <translation>%1。没有更改任何文件。</translation>
+    </message>
+    <message>
+        <source>无法安装“%1”：%2</source>
+        <translation>无法安装“%1”：%2</translation>
+    </message>
+    <message>
+        <source>这个位置上已有一个文件夹</source>
+        <translation>这个位置上已有一个文件夹</translation>
+    </message>
+    <message>
+        <source>“%1”不是文件夹</source>
+        <translation>“%1”不是文件夹</translation>
+    </message>
+    <message>
+        <source>它会离开程序文件夹</source>
+        <translation>它会离开程序文件夹</translation>
+    </message>
+    <message>
+        <source>无法设置文件权限</source>
+        <translation>无法设置文件权限</translation>
+    </message>
+    <message>
+        <source>无法写入程序文件夹：%1</source>
+        <translation>无法写入程序文件夹：%1</translation>
+    </message>
+    <message>
+        <source>无法写入程序文件夹</source>
+        <translation>无法写入程序文件夹</translation>
+    </message>
+    <message>
+        <source>另一个正在运行的本程序也在更新。</source>
+        <translation>另一个正在运行的本程序也在更新。</translation>
+    </message>
+    <message>
+        <source>无法写入程序文件夹 %1。</source>
+        <translation>无法写入程序文件夹 %1。</translation>
+    </message>
+    <message>
+        <source>上一次更新没有完成，也无法恢复。请重新安装本程序。</source>
+        <translation>上一次更新没有完成，也无法恢复。请重新安装本程序。</translation>
     </message>
 </context>
 <context>
@@ -950,6 +1005,10 @@
         <source>立即更新</source>
         <translation>立即更新</translation>
     </message>
+    <message>
+        <source>知道了</source>
+        <translation>知道了</translation>
+    </message>
 </context>
 <context>
     <name>UpdateOffer</name>
@@ -968,6 +1027,22 @@
     <message>
         <source>“%1”没有有效的 SHA-256 校验值。</source>
         <translation>“%1”没有有效的 SHA-256 校验值。</translation>
+    </message>
+    <message>
+        <source>文件名“%1”不允许使用：它由更新程序自己使用。</source>
+        <translation>文件名“%1”不允许使用：它由更新程序自己使用。</translation>
+    </message>
+    <message>
+        <source>“%1”的大小无效。</source>
+        <translation>“%1”的大小无效。</translation>
+    </message>
+    <message>
+        <source>更新过大。</source>
+        <translation>更新过大。</translation>
+    </message>
+    <message>
+        <source>更新中“%1”出现了两次。</source>
+        <translation>更新中“%1”出现了两次。</translation>
     </message>
 </context>
 <context>
@@ -1037,6 +1112,10 @@
     <message>
         <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</source>
         <translation>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</translation>
+    </message>
+    <message>
+        <source>上一次更新没有完成，也无法恢复。请重新安装本程序。</source>
+        <translation>上一次更新没有完成，也无法恢复。请重新安装本程序。</translation>
     </message>
 </context>
 <context>

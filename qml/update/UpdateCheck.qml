@@ -1,6 +1,5 @@
 import QtQml
 import Dravelin.Update
-import "Http.js" as Http
 
 /// Asks the update service once, at start, whether there is a newer version. The question waits
 /// for nobody: a dead or slow server only means that no offer comes.
@@ -30,17 +29,15 @@ QtObject {
             console.warn("更新地址不安全，只允许 HTTPS:", updateUrl);
             return;
         }
-        Http.post(updateUrl, {
+        question.ask(updateUrl, {
             app: "Dravelin",
             version: appVersion,
             os: settings.getSysInfo()
-        }).then(reply => {
-            const offer = JSON.parse(reply.text);
-            // Redirected to a plain connection, the reply may be anybody's.
-            if (offer.push === true && (!reply.url || downloader.isAllowedAddress(reply.url)))
-                offered(offer);
-        }).catch(error => console.log("检查更新失败:", error.message));
+        });
     }
 
     property UpdateDownloader downloader: UpdateDownloader {}
+    property UpdateQuestion question: UpdateQuestion {
+        onOffered: offer => root.offered(offer)
+    }
 }

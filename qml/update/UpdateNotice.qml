@@ -9,12 +9,14 @@ import "Theme.js" as Theme
 PanelWindow {
     id: root
 
-    /// The reply of the update service.
+    /// The reply of the update service, with "version" and "notes" as texts.
     required property var offer
     required property string currentVersion
 
     readonly property bool busy: downloader.state === UpdateDownloader.Downloading
                                  || downloader.state === UpdateDownloader.Installing
+    /// The program cannot be updated from here: there is only something to be read.
+    readonly property bool refused: downloader.refusal !== ""
     readonly property bool failed: downloader.state === UpdateDownloader.Failed
 
     width: 380
@@ -41,7 +43,7 @@ PanelWindow {
 
         PanelText {
             Layout.fillWidth: true
-            text: qsTr("发现新版本 %1").arg(root.offer.version ?? "")
+            text: qsTr("发现新版本 %1").arg(root.offer.version)
             font { pixelSize: Theme.titleText; weight: Font.DemiBold }
         }
 
@@ -55,7 +57,7 @@ PanelWindow {
             Layout.fillWidth: true
             Layout.preferredHeight: Math.min(160, implicitHeight)
             visible: text !== ""
-            text: root.offer.notes ?? ""
+            text: root.offer.notes
         }
 
         ProgressLine {
@@ -65,6 +67,13 @@ PanelWindow {
             value: downloader.progress
             label: downloader.state === UpdateDownloader.Installing
                    ? qsTr("正在安装…") : qsTr("正在下载… %1%").arg(Math.round(downloader.progress * 100))
+        }
+
+        PanelText {
+            Layout.fillWidth: true
+            Layout.topMargin: 6
+            visible: root.refused
+            text: downloader.refusal
         }
 
         PanelText {
@@ -80,7 +89,7 @@ PanelWindow {
             spacing: 10
 
             FluButton {
-                text: root.busy ? qsTr("取消") : qsTr("以后再说")
+                text: root.busy ? qsTr("取消") : root.refused ? qsTr("知道了") : qsTr("以后再说")
                 disabled: downloader.state === UpdateDownloader.Installing
                 onClicked: {
                     if (root.busy)
@@ -91,7 +100,7 @@ PanelWindow {
             }
 
             AccentButton {
-                visible: !root.busy
+                visible: !root.busy && !root.refused
                 text: root.failed ? qsTr("重试") : qsTr("立即更新")
                 onClicked: downloader.start(root.offer)
             }

@@ -1,7 +1,9 @@
 #include "settings/update/updatedownloader.h"
 
-#include "settings/settingsclazz.h"
+#include "platform/programfolder.h"
+#include "settings/processservices.h"
 
+#include <QDebug>
 #include <QDir>
 #include <QFileInfo>
 #include <QNetworkReply>
@@ -10,73 +12,99 @@
 namespace
 {
 
-// More than any update weighs; an endless answer must not fill the disk.
-constexpr qint64 kMaxFileBytes = qint64{ 2 } * 1024 * 1024 * 1024;
+// What is read, hashed and written at once: the palette must answer in between.
+constexpr qint64 kSliceBytes = 1 << 18;
+constexpr int kTimeoutMs = 60 * 60 * 1000;
 
-QString inApplicationFolder(const QString &name)
+QStringList namesOf(const UpdateOffer &offer)
 {
-    return QDir(QCoreApplication::applicationDirPath()).filePath(name);
-}
-
-/// A link inside the application folder may lead out of it; the nearest folder that exists tells.
-bool leavesThroughLink(const QString &name)
-{
-    const QString root = QFileInfo(QCoreApplication::applicationDirPath()).canonicalFilePath();
-    QFileInfo info(inApplicationFolder(name));
-    while (!info.exists() && !info.isSymLink())
-        info = QFileInfo(info.path());
-    const QString real = info.canonicalFilePath();
-    return real != root && !real.startsWith(root + QLatin1Char('/'));
+    QStringList names;
+    for (const UpdateFile &file : offer.files)
+        names.append(file.name);
+    return names;
 }
 
 } // namespace
 
 UpdateDownloader::UpdateDownloader(QObject *parent) : QObject(parent)
 {
+    m_deadline.setSingleShot(true);
+    m_deadline.setInterval(kTimeoutMs);
+    connect(&m_deadline, &QTimer::timeout, this, [this] { fail(tr("下载时间过长。")); });
 }
 
 UpdateDownloader::~UpdateDownloader()
 {
     dropReply();
+    if (m_worker)
+        m_worker->wait(); // half an installation is none
+}
+
+QString UpdateDownloader::refusal()
+{
+    if (ProgramFolder::isPackaged())
+        return tr("本程序由系统的软件包管理器安装，请用它来更新。");
+    if (!ProgramFolder::isWritable())
+        return tr("程序文件夹 %1 不可写入，无法更新。请用有写入权限的账户运行本程序。")
+            .arg(QDir::toNativeSeparators(ProgramFolder::path()));
+    return {};
 }
 
 void UpdateDownloader::start(const QVariantMap &reply)
 {
     if (m_state == Downloading || m_state == Installing)
         return;
-    m_fetched.clear();
     m_reason.clear();
+    m_current = -1;
+    m_received = 0;
     setProgress(0);
-    const UpdateOffer::Parsed parsed = UpdateOffer::parse(reply);
-    if (!parsed.reason.isEmpty()) {
-        fail(parsed.reason);
+    const QString problem = prepare(reply);
+    if (!problem.isEmpty()) {
+        fail(problem);
         return;
     }
-    m_offer = parsed.offer;
     setState(Downloading);
+    m_deadline.start();
     fetchNext();
+}
+
+/// An empty text when all is ready for the first file, else why not.
+QString UpdateDownloader::prepare(const QVariantMap &reply)
+{
+    const QString refused = refusal();
+    if (!refused.isEmpty())
+        return refused;
+    const UpdateOffer::Parsed parsed = UpdateOffer::parse(reply);
+    if (!parsed.reason.isEmpty())
+        return parsed.reason;
+    m_offer = parsed.offer;
+    const QFileInfo updater(QDir(ProgramFolder::path()).filePath(m_offer.updater));
+    if (!namesOf(m_offer).contains(m_offer.updater)) {
+        if (!updater.isFile())
+            return tr("找不到更新程序“%1”。").arg(m_offer.updater);
+        if (!updater.isExecutable())
+            return tr("更新程序“%1”无法运行。").arg(m_offer.updater);
+    }
+    m_installer = std::make_unique<UpdateInstaller>(ProgramFolder::path());
+    return m_installer->begin();
 }
 
 void UpdateDownloader::cancel()
 {
     if (m_state != Downloading)
         return;
-    dropReply();
-    m_fetched.clear();
+    drop();
     setState(Cancelled);
 }
 
 void UpdateDownloader::fetchNext()
 {
-    if (m_fetched.size() == static_cast<std::size_t>(m_offer.files.size())) {
+    if (++m_current == m_offer.files.size()) {
         install();
         return;
     }
-    m_fetched.push_back(std::make_unique<QTemporaryFile>());
-    if (!m_fetched.back()->open()) {
-        fail(tr("无法创建临时文件：%1").arg(m_fetched.back()->errorString()));
+    if (!openNext())
         return;
-    }
     m_hash.reset();
 
     QNetworkRequest request(currentFile().url);
@@ -87,16 +115,20 @@ void UpdateDownloader::fetchNext()
     request.setRawHeader("Accept-Encoding", "identity");
     request.setTransferTimeout(m_stallTimeoutMs);
     m_reply = m_network.get(request);
+    m_reply->setReadBufferSize(kSliceBytes);
     connect(m_reply, &QNetworkReply::redirected, this, &UpdateDownloader::followRedirect);
     connect(m_reply, &QNetworkReply::readyRead, this, &UpdateDownloader::receive);
     connect(m_reply, &QNetworkReply::finished, this, &UpdateDownloader::finishFile);
-    connect(m_reply, &QNetworkReply::downloadProgress, this, [this](qint64 received, qint64 total) {
-        if (total <= 0)
-            return;
-        const double done = static_cast<double>(m_fetched.size() - 1)
-            + static_cast<double>(received) / static_cast<double>(total);
-        setProgress(done / static_cast<double>(m_offer.files.size()));
-    });
+}
+
+bool UpdateDownloader::openNext()
+{
+    m_file.setFileName(m_installer->stagedPath(currentFile().name));
+    // Unbuffered: a full disk shows at once.
+    if (m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        return true;
+    fail(tr("无法写入“%1”：%2。").arg(currentFile().name, m_file.errorString()));
+    return false;
 }
 
 void UpdateDownloader::followRedirect(const QUrl &target)
@@ -109,15 +141,34 @@ void UpdateDownloader::followRedirect(const QUrl &target)
 
 void UpdateDownloader::receive()
 {
-    QTemporaryFile &file = *m_fetched.back();
     const QByteArray bytes = m_reply->readAll();
-    if (file.size() + bytes.size() > kMaxFileBytes) {
+    m_received += bytes.size();
+    const qint64 ownLimit = currentFile().size < 0 ? UpdateOffer::kMaxBytes : currentFile().size;
+    if (m_file.size() + bytes.size() > ownLimit || m_received > UpdateOffer::kMaxBytes) {
         fail(tr("“%1”过大。").arg(currentFile().name));
         return;
     }
     m_hash.addData(bytes);
-    if (file.write(bytes) != bytes.size())
-        fail(tr("无法写入临时文件：%1").arg(file.errorString()));
+    if (m_file.write(bytes) != bytes.size()) {
+        fail(tr("无法写入“%1”：%2。").arg(currentFile().name, m_file.errorString()));
+        return;
+    }
+    showProgress();
+}
+
+/// By bytes where the service says how many there are, else file by file.
+void UpdateDownloader::showProgress()
+{
+    const qint64 all = m_offer.size();
+    if (all > 0) {
+        setProgress(static_cast<double>(m_received) / static_cast<double>(all));
+        return;
+    }
+    const qint64 told = m_reply->header(QNetworkRequest::ContentLengthHeader).toLongLong();
+    const double ownShare =
+        told > 0 ? static_cast<double>(m_file.size()) / static_cast<double>(told) : 0;
+    setProgress((static_cast<double>(m_current) + qMin(ownShare, 1.0))
+        / static_cast<double>(m_offer.files.size()));
 }
 
 void UpdateDownloader::finishFile()
@@ -129,9 +180,9 @@ void UpdateDownloader::finishFile()
     receive();
     if (m_state != Downloading)
         return;
-    QTemporaryFile &file = *m_fetched.back();
-    if (!file.flush()) {
-        fail(tr("无法写入临时文件：%1").arg(file.errorString()));
+    m_file.close();
+    if (m_file.error() != QFileDevice::NoError) {
+        fail(tr("无法写入“%1”：%2。").arg(currentFile().name, m_file.errorString()));
         return;
     }
     if (m_hash.result() != currentFile().sha256) {
@@ -139,56 +190,37 @@ void UpdateDownloader::finishFile()
         return;
     }
     dropReply();
-    setProgress(static_cast<double>(m_fetched.size()) / static_cast<double>(m_offer.files.size()));
     fetchNext();
 }
 
 void UpdateDownloader::install()
 {
+    m_deadline.stop();
+    setProgress(1);
     setState(Installing);
-    for (std::size_t index = 0; index < m_fetched.size(); ++index) {
-        if (!writeFile(index)) {
-            const QString name = m_offer.files[static_cast<qsizetype>(index)].name;
-            fail(tr("无法把“%1”写入程序文件夹，请检查写权限和剩余空间。").arg(name));
-            return;
-        }
-    }
-    handOver();
+    // Waiting for the disk takes seconds.
+    auto problem = std::make_shared<QString>();
+    m_worker.reset(QThread::create(
+        [this, problem] { *problem = m_installer->install(namesOf(m_offer), m_offer.updater); }));
+    connect(
+        m_worker.get(), &QThread::finished, this, [this, problem] { finishInstalling(*problem); });
+    m_worker->start();
 }
 
-bool UpdateDownloader::writeFile(std::size_t index)
+void UpdateDownloader::finishInstalling(const QString &problem)
 {
-    const QString &name = m_offer.files[static_cast<qsizetype>(index)].name;
-    if (leavesThroughLink(name))
-        return false;
-    QTemporaryFile &file = *m_fetched[index];
-    if (!file.seek(0))
-        return false;
-    const QByteArray bytes = file.readAll();
-    return bytes.size() == file.size() && SettingsClazz().saveFile(bytes.toBase64(), name);
-}
-
-void UpdateDownloader::handOver()
-{
-    m_fetched.clear();
-    QFile updater(inApplicationFolder(m_offer.updater));
-    if (!QFileInfo(updater).isFile() || leavesThroughLink(m_offer.updater)) {
-        fail(tr("找不到更新程序“%1”。").arg(m_offer.updater));
+    if (!problem.isEmpty()) {
+        fail(problem);
         return;
     }
-    updater.setPermissions(updater.permissions() | QFileDevice::ExeOwner | QFileDevice::ExeUser);
-    if (!QFileInfo(updater).isExecutable()) {
-        fail(tr("更新程序“%1”无法运行。").arg(m_offer.updater));
-        return;
-    }
+    drop();
     setState(Finished);
-    SettingsClazz().startExeAndExitApp(m_offer.updater);
+    ProcessServices::startAndQuit(m_offer.updater);
 }
 
 void UpdateDownloader::fail(const QString &reason)
 {
-    dropReply();
-    m_fetched.clear();
+    drop();
     m_reason = reason;
     qWarning().noquote() << "更新失败:" << reason;
     setState(Failed);
@@ -208,6 +240,15 @@ void UpdateDownloader::setProgress(double progress)
     Q_EMIT progressChanged();
 }
 
+/// What was fetched goes with the installer.
+void UpdateDownloader::drop()
+{
+    m_deadline.stop();
+    dropReply();
+    m_file.close();
+    m_installer.reset();
+}
+
 /// Disconnected first: an aborted reply would still report its end.
 void UpdateDownloader::dropReply()
 {
@@ -217,9 +258,4 @@ void UpdateDownloader::dropReply()
     m_reply->abort();
     m_reply->deleteLater();
     m_reply.clear();
-}
-
-const UpdateFile &UpdateDownloader::currentFile() const
-{
-    return m_offer.files[static_cast<qsizetype>(m_fetched.size()) - 1];
 }

@@ -1,24 +1,27 @@
 #pragma once
 
+#include "settings/update/updateinstaller.h"
 #include "settings/update/updateoffer.h"
 
 #include <QCryptographicHash>
+#include <QFile>
 #include <QNetworkAccessManager>
 #include <QObject>
 #include <QPointer>
-#include <QTemporaryFile>
+#include <QThread>
+#include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
-#include <vector>
 
 class QNetworkReply;
 
-/// Fetches the files of an update, checks each against its SHA-256, writes them below the
-/// application folder and hands over to the updater.
+/// Fetches the files of an update, checks each against its SHA-256, has them take their places in
+/// the program's folder and hands over to the updater.
 ///
-/// Nothing is written before every file has arrived and matched, and nothing is started after a
-/// failure. Use on the GUI thread; the network works in the background.
+/// None of the program's files is touched before every file has arrived and matched; then all are
+/// replaced or none, and nothing is started after a failure. Use on the GUI thread; network and
+/// installation work in the background.
 class UpdateDownloader : public QObject
 {
     Q_OBJECT
@@ -26,6 +29,7 @@ class UpdateDownloader : public QObject
     Q_PROPERTY(State state READ state NOTIFY stateChanged FINAL)
     Q_PROPERTY(double progress READ progress NOTIFY progressChanged FINAL)
     Q_PROPERTY(QString reason READ reason NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString refusal READ refusal CONSTANT FINAL)
 
 public:
     enum State { Idle, Downloading, Installing, Finished, Cancelled, Failed };
@@ -40,8 +44,13 @@ public:
     /// Why the update failed, for the user; empty otherwise.
     [[nodiscard]] QString reason() const { return m_reason; }
 
+    /// Why this program cannot be updated from here at all, for the user; empty when it can.
+    [[nodiscard]] static QString refusal();
+
     /// How long a server may send nothing before it is given up.
     void setStallTimeoutMs(int timeoutMs) { m_stallTimeoutMs = timeoutMs; }
+    /// How long all files together may take.
+    void setTimeoutMs(int timeoutMs) { m_deadline.setInterval(timeoutMs); }
 
     /// Starts with the update service's reply. Does nothing while a download runs.
     Q_INVOKABLE void start(const QVariantMap &reply);
@@ -58,25 +67,32 @@ Q_SIGNALS:
     void progressChanged();
 
 private:
+    [[nodiscard]] QString prepare(const QVariantMap &reply);
     void fetchNext();
+    bool openNext();
     void followRedirect(const QUrl &target);
     void receive();
     void finishFile();
+    void showProgress();
     void install();
-    bool writeFile(std::size_t index);
-    void handOver();
+    void finishInstalling(const QString &problem);
     void fail(const QString &reason);
+    void drop();
     void setState(State state);
     void setProgress(double progress);
     void dropReply();
-    [[nodiscard]] const UpdateFile &currentFile() const;
+    [[nodiscard]] const UpdateFile &currentFile() const { return m_offer.files[m_current]; }
 
     QNetworkAccessManager m_network;
     QCryptographicHash m_hash{ QCryptographicHash::Sha256 };
     UpdateOffer m_offer;
-    /// One for each file that is fetched or being fetched; they vanish with this list.
-    std::vector<std::unique_ptr<QTemporaryFile>> m_fetched;
+    std::unique_ptr<UpdateInstaller> m_installer; ///< while a download runs or is installed
+    qsizetype m_current = -1; ///< which of the offer's files is being fetched
+    QFile m_file;
+    qint64 m_received = 0; ///< bytes of all files
     QPointer<QNetworkReply> m_reply;
+    QTimer m_deadline;
+    std::unique_ptr<QThread> m_worker;
     QString m_reason;
     State m_state = Idle;
     double m_progress = 0;

@@ -14,6 +14,8 @@ struct UpdateFile {
     QString name;
     /// The 32 bytes of its SHA-256.
     QByteArray sha256;
+    /// How many bytes it has, if the service says so, else -1.
+    qint64 size = -1;
 };
 
 /// A new version as the update service describes it, checked before anything is fetched.
@@ -25,9 +27,16 @@ public:
     /// The program that finishes the update, relative to the application folder.
     QString updater;
 
+    /// More than any update weighs, all files together; an endless answer must not fill the disk.
+    static constexpr qint64 kMaxBytes = qint64{ 1 } << 30;
+
     struct Parsed;
-    /// Reads the service's reply: "files" (a list of "url", "name", "sha256") and "updater".
+    /// Reads the service's reply: "files" (a list of "url", "name", "sha256" and perhaps "size")
+    /// and "updater". What has another type than it should is refused like what is missing.
     [[nodiscard]] static Parsed parse(const QVariantMap &reply);
+
+    /// The bytes of all files, as far as the service says; -1 when it does not for one of them.
+    [[nodiscard]] qint64 size() const;
 
     /// True for HTTPS, and for plain HTTP when it does not leave this machine.
     [[nodiscard]] static bool isAllowedAddress(const QUrl &url);

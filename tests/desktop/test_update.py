@@ -19,8 +19,9 @@ class Service(http.server.ThreadingHTTPServer):
 
     daemon_threads = True
 
-    def __init__(self, push=True, damaged=False):
+    def __init__(self, damaged=False, **offered):
         self.questions = []
+        self.downloads = 0
         self.answered = threading.Event()
         self.may_send_file = threading.Event()
         self.may_send_file.set()
@@ -28,9 +29,9 @@ class Service(http.server.ThreadingHTTPServer):
         self.address = f"http://127.0.0.1:{self.server_port}"
         body = UPDATER + b"damaged" if damaged else UPDATER
         self.offer = {
-            "push": push, "version": "9.9.9", "notes": "更快、更稳定\n" * 3, "updater": "updater",
+            "push": True, "version": "9.9.9", "notes": "更快、更稳定\n" * 3, "updater": "updater",
             "files": [{"url": f"{self.address}/updater", "name": "updater",
-                       "sha256": hashlib.sha256(body).hexdigest()}]}
+                       "sha256": hashlib.sha256(body).hexdigest()}], **offered}
         threading.Thread(target=self.serve_forever, daemon=True).start()
 
     def close(self):
@@ -48,6 +49,7 @@ class Handler(http.server.BaseHTTPRequestHandler):
         self.server.answered.set()
 
     def do_GET(self):
+        self.server.downloads += 1
         self.send_response(200)
         self.send_header("Content-Length", str(len(UPDATER)))
         self.end_headers()
@@ -104,6 +106,7 @@ class UpdateTestCase(desktop.DesktopTestCase):
 
 
 class UpdateTest(UpdateTestCase):
+    expected_warning = "An update did not come to its end"
 
     def test_installs_what_was_offered_and_starts_the_updater(self):
         service = self.serve()
@@ -129,12 +132,47 @@ class UpdateTest(UpdateTestCase):
         self.wait_for(lambda: not self.program.windows(title=NOTICE), "the notice to close")
 
     def test_no_offer_no_notice(self):
-        service = self.serve(push=False)
-        self.wait_for(service.answered.is_set, "the answer to the check")
-        # Whatever the answer had opened would be there before what is asked for after it.
-        self.palette.choose("menu", "about")
-        self.program.window(title="关于")
-        self.assertFalse(self.program.windows(title=NOTICE))
+        for offered in {"push": False}, {"version": {"name": "9.9.9"}}:
+            with self.subTest(offered):
+                service = self.serve(**offered)
+                self.wait_for(service.answered.is_set, "the answer to the check")
+                # Whatever the answer had opened would be there before what is asked for after it.
+                self.palette.choose("menu", "about")
+                self.program.window(title="关于")
+                self.assertFalse(self.program.windows(title=NOTICE))
+                self.program.stop()
+
+    def test_a_packaged_program_leaves_the_update_to_its_manager(self):
+        os.makedirs(self.app_folder)
+        with open(os.path.join(self.app_folder, "packaged"), "w", encoding="utf-8"):
+            pass
+        service = self.serve()
+        notice = self.program.window(title=NOTICE)
+        self.press(notice, 0)  # where the button that installs would be
+        self.wait_for(lambda: not self.program.windows(title=NOTICE), "the notice to close")
+        self.assertEqual(service.downloads, 0)
+        # What the program notes for itself went to the user's own file.
+        own = os.path.join(self.desktop.home, ".config/korvath/config.ini")
+        with open(own, encoding="utf-8") as config:
+            self.assertIn("APPVersion=3.2.0", config.read())
+
+    def test_an_update_that_was_cut_short_is_taken_back_at_the_next_start(self):
+        desktop.install(desktop.program_path(), self.app_folder)
+        work = os.path.join(self.app_folder, ".update")
+        os.makedirs(os.path.join(work, "new"))
+        os.makedirs(os.path.join(work, "old"))
+        plan = {"replaced": ["readme"], "added": ["plugin"], "folders": []}
+        for path, text in (("journal", json.dumps(plan)), ("old/readme", "old"),
+                           ("../readme", "new"), ("../plugin", "new")):
+            with open(os.path.join(work, path), "w", encoding="utf-8") as file:
+                file.write(text)
+        first = self.start()
+        self.assertEqual(first.wait_for_end(), 0)
+        self.desktop.wait_for_window(title="主窗口")  # of the one that it started instead
+        with open(os.path.join(self.app_folder, "readme"), encoding="utf-8") as file:
+            self.assertEqual(file.read(), "old")
+        for gone in ".update", "plugin":
+            self.assertFalse(os.path.exists(os.path.join(self.app_folder, gone)))
 
     def test_a_silent_server_delays_nothing(self):
         with socket.socket() as silent:

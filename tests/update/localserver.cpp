@@ -35,10 +35,20 @@ void LocalServer::answer(QTcpSocket *socket)
     ++m_requests;
     const QByteArray path = socket->readAll().split(' ').value(1);
     const Answer answer = m_answers.value(path, { "HTTP/1.1 404 Not Found\r\n", "none", Whole });
-    socket->write(answer.head + "Content-Length: " + QByteArray::number(answer.body.size())
-        + "\r\nConnection: close\r\n\r\n");
-    socket->write(
-        answer.behaviour == Whole ? answer.body : answer.body.left(answer.body.size() / 2));
-    if (answer.behaviour != Stalled)
+    connect(socket, &QTcpSocket::bytesWritten, this, [this](qint64 bytes) { m_sent += bytes; });
+    const bool isEndless = answer.behaviour == Endless;
+    socket->write(answer.head
+        + (isEndless ? QByteArray()
+                     : "Content-Length: " + QByteArray::number(answer.body.size()) + "\r\n")
+        + "Connection: close\r\n\r\n");
+    const bool isHalf = answer.behaviour == Dropped || answer.behaviour == Stalled;
+    socket->write(isHalf ? answer.body.left(answer.body.size() / 2) : answer.body);
+    if (isEndless) {
+        connect(socket, &QTcpSocket::bytesWritten, socket, [socket] {
+            if (socket->bytesToWrite() == 0)
+                socket->write(QByteArray(1 << 16, '\0'));
+        });
+    } else if (answer.behaviour != Stalled) {
         socket->disconnectFromHost();
+    }
 }

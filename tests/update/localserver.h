@@ -16,7 +16,8 @@ public:
     enum Behaviour {
         Whole, ///< sends everything
         Dropped, ///< closes the connection in the middle of the body
-        Stalled ///< sends half of the body and then nothing more
+        Stalled, ///< sends half of the body and then nothing more
+        Endless ///< sends the body and then zeros, as long as somebody takes them
     };
 
     LocalServer();
@@ -27,6 +28,9 @@ public:
     [[nodiscard]] QUrl url(const QString &path) const;
     /// How many requests came.
     [[nodiscard]] int requests() const { return m_requests; }
+
+    /// How many bytes went out.
+    [[nodiscard]] qint64 sent() const { return m_sent; }
 
 private:
     struct Answer {
@@ -39,4 +43,5 @@ private:
 
     QHash<QByteArray, Answer> m_answers;
     int m_requests = 0;
+    qint64 m_sent = 0;
 };

@@ -26,7 +26,7 @@ QByteArray contents(const QString &name)
 QVariantMap file(const QUrl &url, const QString &name, const QByteArray &body)
 {
     const auto hash = QCryptographicHash::hash(body, QCryptographicHash::Sha256).toHex();
-    return { { "url", url }, { "name", name }, { "sha256", QString::fromLatin1(hash) } };
+    return { { "url", url.toString() }, { "name", name }, { "sha256", QString::fromLatin1(hash) } };
 }
 
 QVariantMap offer(const QVariantList &files)
@@ -50,6 +50,8 @@ private slots:
     void saysWhyAFileCannotBeWritten();
     void doesNotWriteThroughALink();
     void needsAnUpdater();
+    void takesNoLongerThanItMay();
+    void refusesAnOfferAtOnceWhereNothingCanBeUpdated();
 
 private:
     [[nodiscard]] QVariantMap goodOffer() const;
@@ -99,18 +101,23 @@ void TestUpdateDownloader::changesNothingWhenAFileIsWrong()
     m_server->serve("/other", kPicture + "!");
     m_server->serve("/dropped", kPicture, LocalServer::Dropped);
     m_server->serve("/stalled", kPicture, LocalServer::Stalled);
+    m_server->serve("/endless", kPicture, LocalServer::Endless);
     m_server->redirect("/plain", QUrl("http://example.invalid/picture"));
     m_server->redirect("/circle", m_server->url("/circle"));
-    for (const char *path : { "/other", "/missing", "/dropped", "/stalled", "/plain", "/circle" }) {
+    for (const char *path :
+        { "/other", "/missing", "/dropped", "/stalled", "/plain", "/circle", "/endless" }) {
         QDir(inApplication("new")).removeRecursively();
         UpdateDownloader downloader;
         downloader.setStallTimeoutMs(200);
+        QVariantMap wrong = file(m_server->url(path), "new/picture.png", kPicture);
+        wrong["size"] = kPicture.size();
         // The wrong one comes last: the good one before it must not stay behind.
-        downloader.start(offer({ file(m_server->url("/updater"), "new/updater.sh", kUpdater),
-            file(m_server->url(path), "new/picture.png", kPicture) }));
+        downloader.start(
+            offer({ file(m_server->url("/updater"), "new/updater.sh", kUpdater), wrong }));
         QTRY_VERIFY2(downloader.state() == UpdateDownloader::Failed, path);
         QVERIFY2(downloader.reason().contains("new/picture.png"), qPrintable(downloader.reason()));
         QVERIFY2(!QFile::exists(inApplication("new")), path);
+        QVERIFY2(!QFile::exists(inApplication(".update")), path);
 
         downloader.start(goodOffer());
         QTRY_COMPARE(downloader.state(), UpdateDownloader::Finished);
@@ -151,7 +158,8 @@ void TestUpdateDownloader::doesNotWriteThroughALink()
     QVERIFY(QDir().mkpath(inApplication("new")));
     QVERIFY(QFile::link(elsewhere.path(), inApplication("new/link")));
     UpdateDownloader downloader;
-    downloader.start(offer({ file(m_server->url("/picture"), "new/link/picture.png", kPicture) }));
+    downloader.start(offer({ file(m_server->url("/picture"), "new/link/picture.png", kPicture),
+        file(m_server->url("/updater"), "new/updater.sh", kUpdater) }));
     QTRY_COMPARE(downloader.state(), UpdateDownloader::Failed);
     QVERIFY(QDir(elsewhere.path()).isEmpty());
 }
@@ -162,6 +170,30 @@ void TestUpdateDownloader::needsAnUpdater()
     downloader.start(offer({ file(m_server->url("/picture"), "new/picture.png", kPicture) }));
     QTRY_COMPARE(downloader.state(), UpdateDownloader::Failed);
     QVERIFY2(downloader.reason().contains("new/updater.sh"), qPrintable(downloader.reason()));
+}
+
+void TestUpdateDownloader::takesNoLongerThanItMay()
+{
+    m_server->serve("/endless", kPicture, LocalServer::Endless);
+    UpdateDownloader downloader;
+    downloader.setTimeoutMs(300);
+    downloader.start(offer({ file(m_server->url("/endless"), "new/picture.png", kPicture),
+        file(m_server->url("/updater"), "new/updater.sh", kUpdater) }));
+    QTRY_COMPARE(downloader.state(), UpdateDownloader::Failed);
+    QVERIFY(!QFile::exists(inApplication(".update")));
+}
+
+void TestUpdateDownloader::refusesAnOfferAtOnceWhereNothingCanBeUpdated()
+{
+    QVERIFY(UpdateDownloader::refusal().isEmpty());
+    QFile marker(inApplication("packaged"));
+    QVERIFY(marker.open(QIODevice::WriteOnly));
+    UpdateDownloader downloader;
+    downloader.start(goodOffer());
+    QVERIFY(marker.remove());
+    QCOMPARE(downloader.state(), UpdateDownloader::Failed);
+    QVERIFY2(downloader.reason().contains("软件包管理器"), qPrintable(downloader.reason()));
+    QCOMPARE(m_server->requests(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestUpdateDownloader)

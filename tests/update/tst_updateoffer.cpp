@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include <cmath>
+
 class TestUpdateOffer : public QObject
 {
     Q_OBJECT
@@ -49,12 +51,29 @@ void TestUpdateOffer::replies()
     QCOMPARE(good.offer.files.size(), 1);
     const std::pair<const char *, QVariant> rows[] = { { "name", "../x" },
         { "url", "http://example.com/x" }, { "sha256", {} }, { "sha256", hash.chopped(2) },
-        { "sha256", hash.chopped(1) + 'g' }, { "updater", "/bin/sh" } };
+        { "sha256", hash.chopped(1) + 'g' }, { "updater", "/bin/sh" }, { "name", 5 },
+        { "name", ".update/journal" }, { "name", ".Update.lock" },
+        { "url", QVariantMap{ { "a", 1 } } }, { "sha256", QStringList{ hash } }, { "size", -1 },
+        { "size", "100" }, { "size", 1e300 }, { "size", std::nan("") },
+        { "updater", QVariantList{ "x" } } };
     for (const auto &[key, value] : rows) {
         const UpdateOffer::Parsed bad = parsed(key, value);
         QVERIFY2(!bad.reason.isEmpty() && bad.offer.files.isEmpty(), key);
     }
     QVERIFY(!UpdateOffer::parse({}).reason.isEmpty());
+    QVERIFY(!UpdateOffer::parse({ { "files", "x" } }).reason.isEmpty());
+    QVERIFY(!UpdateOffer::parse({ { "files", QVariantList{ "x", 5 } } }).reason.isEmpty());
+
+    const auto two = [&](const QString &name, qint64 size) {
+        const QVariantMap file{ { "url", "https://example.com/x" }, { "name", "x" },
+            { "sha256", hash }, { "size", size } };
+        QVariantMap other = file;
+        other["name"] = name;
+        return UpdateOffer::parse({ { "files", QVariantList{ file, other } } });
+    };
+    QCOMPARE(two("y", 5).offer.size(), 10);
+    QVERIFY(!two("X", 5).reason.isEmpty());
+    QVERIFY(!two("y", UpdateOffer::kMaxBytes - 5).reason.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TestUpdateOffer)
