@@ -1,14 +1,19 @@
+#include "app/commandclient.h"
+#include "app/commandline.h"
 #include "app/identity.h"
 #include "app/interfacelanguage.h"
 #include "app/quitfilter.h"
+#include "app/remote.h"
 #include "app/rendering.h"
 #include "app/renderingprobe.h"
 #include "app/singleinstance.h"
 #include "app/startup.h"
 #include "app/systemtray.h"
+#include "app/terminalanswer.h"
 #include "app/trayicon.h"
 #include "app/warmup.h"
 #include "platform/desktopnotice.h"
+#include "platform/display.h"
 #include "platform/overlay/overlaysurface.h"
 #include "platform/programfolder.h"
 #include "platform/terminationrequest.h"
@@ -21,8 +26,12 @@
 #include "settings/update/updateinstaller.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QQmlApplicationEngine>
 #include <QQuickStyle>
+#include <QTimer>
+
+#include <tuple>
 
 namespace
 {
@@ -37,12 +46,33 @@ void reportHalfUpdate()
         QCoreApplication::translate("main", "上一次更新没有完成，也无法恢复。请重新安装本程序。"));
 }
 
+QStringList argumentList(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments << QString::fromLocal8Bit(argv[i]);
+    }
+    return arguments;
+}
+
+/// Commands of other starts, and those that this program was itself started with.
+void obeyCommands(SingleInstance &instance, const QList<Command> &own)
+{
+    QObject::connect(&instance, &SingleInstance::asked, Remote::instance(), &Remote::submit);
+    if (!own.isEmpty()) {
+        QTimer::singleShot(0, Remote::instance(), [own] {
+            Remote::instance()->submit(
+                own, [](const CommandReply &reply) { std::ignore = CommandClient::report(reply); });
+        });
+    }
+}
+
 /// Everything from here on belongs to the one instance that runs.
-int runInterface(
-    QApplication &application, SingleInstance &instance, UpdateInstaller::Recovery recovery)
+int runInterface(QApplication &application, SingleInstance &instance, const CommandLine &line,
+    UpdateInstaller::Recovery recovery)
 {
     Startup::setIdentity();
-    if (!waitForSystemTray()) {
+    if (!line.withoutTray() && !waitForSystemTray()) {
         reportNoSystemTray(application);
         return kExitNoTray;
     }
@@ -79,6 +109,7 @@ int runInterface(
     if (engine.rootObjects().isEmpty()) {
         return kExitNoWindow;
     }
+    obeyCommands(instance, line.commands());
     return QApplication::exec();
 }
 
@@ -100,6 +131,13 @@ int main(int argc, char *argv[])
 {
     UserHome::adopt();
     chooseWindowSystem();
+    // Before any application object takes its own switches out.
+    const QStringList arguments = argumentList(argc, argv);
+    const QString display = ownDisplay(arguments);
+    const CommandLine line(arguments, QDir::currentPath());
+    if (const auto exitCode = answerOnTerminal(argc, argv, line, display)) {
+        return *exitCode;
+    }
     Startup::initialiseOpenSsl();
     Startup::requestTranslucentWindows();
     qputenv("QT_OPENGL", "desktop");
@@ -115,10 +153,15 @@ int main(int argc, char *argv[])
     // turns this on again, so only here it holds.
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
 
-    SingleInstance instance;
-    switch (instance.claim(QCoreApplication::arguments())) {
+    SingleInstance instance(display);
+    int exitCode = 0;
+    const auto handOver = [&line, &exitCode](QLocalSocket &running) {
+        exitCode = CommandClient::report(CommandClient::ask(running, line.commands()));
+    };
+    switch (instance.claim(QCoreApplication::arguments(),
+        line.commands().isEmpty() ? SingleInstance::HandOver() : handOver)) {
     case SingleInstance::Claim::HandedOver:
-        return 0;
+        return exitCode;
     case SingleInstance::Claim::Refused:
         return kExitNameRefused;
     case SingleInstance::Claim::Granted:
@@ -129,5 +172,5 @@ int main(int argc, char *argv[])
     if (recovery == UpdateInstaller::Recovery::Done && ProcessServices::startAnew()) {
         return 0;
     }
-    return runInterface(application, instance, recovery);
+    return runInterface(application, instance, line, recovery);
 }

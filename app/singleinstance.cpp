@@ -1,81 +1,22 @@
 #include "app/singleinstance.h"
 
+#include "app/visitor.h"
 #include "settings/processservices.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QLocalSocket>
-#include <QLockFile>
+#include <QPointer>
 #include <QTextStream>
+
+#include <algorithm>
 
 namespace
 {
 
-constexpr char kServerName[] = "morvale.sketchorb";
-constexpr int kConnectTimeoutMs = 500;
 constexpr int kSendTimeoutMs = 30000;
-/// Taking and giving up the name are quick; whoever holds the lock longer hangs.
-constexpr int kLockTimeoutMs = 2000;
 constexpr QLatin1Char kArgumentSeparator('|');
-
-uint currentUser()
-{
-    return QFileInfo(QDir::homePath()).ownerId();
-}
-
-QString sharedName()
-{
-    return QLatin1String(kServerName);
-}
-
-/// Sockets of all users of the machine may lie in one folder. Whoever finds the name held by
-/// another user goes by this one.
-QString ownName()
-{
-    return sharedName() + QLatin1Char('-') + QString::number(currentUser());
-}
-
-/// Two starts at the same moment must not both find the name free, and a start must not take the
-/// name while the one before is giving it up. Whoever cannot get the lock goes on without it.
-class NameLock
-{
-public:
-    NameLock() : m_file(QDir::tempPath() + QLatin1Char('/') + ownName() + QLatin1String(".lock"))
-    {
-        m_file.tryLock(kLockTimeoutMs);
-    }
-
-private:
-    QLockFile m_file;
-};
-
-QString socketPath(const QString &name)
-{
-    return QDir::tempPath() + QLatin1Char('/') + name;
-}
-
-bool isHeldByAnotherUser(const QString &name)
-{
-    const QFileInfo socketFile(socketPath(name));
-    return socketFile.exists() && socketFile.ownerId() != currentUser();
-}
-
-/// Connected to the running instance, or nothing.
-std::unique_ptr<QLocalSocket> connectToRunningInstance()
-{
-    for (const QString &name : { sharedName(), ownName() }) {
-        if (isHeldByAnotherUser(name)) {
-            continue; // the superuser would be let in
-        }
-        auto socket = std::make_unique<QLocalSocket>();
-        socket->connectToServer(name);
-        if (socket->waitForConnected(kConnectTimeoutMs)) {
-            return socket;
-        }
-    }
-    return nullptr;
-}
+/// More at a time is no user with a keyboard.
+constexpr qsizetype kMaxVisitors = 32;
 
 void sendArguments(QLocalSocket &socket, const QStringList &arguments)
 {
@@ -88,16 +29,20 @@ void sendArguments(QLocalSocket &socket, const QStringList &arguments)
 /// Why `server` could not listen.
 bool nameBelongsToAnotherUser(const QLocalServer &server, const QString &name)
 {
-    return QFile::exists(socketPath(name))
-        ? isHeldByAnotherUser(name)
+    return QFile::exists(InstanceName::pathOf(name))
+        ? InstanceName::belongsElsewhere(name)
         : server.serverError() == QAbstractSocket::SocketAccessError;
 }
 
 } // namespace
 
+SingleInstance::SingleInstance(const QString &display) : m_name(display)
+{
+}
+
 SingleInstance::~SingleInstance()
 {
-    const NameLock lock;
+    const InstanceLock lock;
     if (m_server && nameIsTakenOver()) {
         closeBesidesSuccessor();
     }
@@ -117,19 +62,23 @@ void SingleInstance::closeBesidesSuccessor()
     }
 }
 
-SingleInstance::Claim SingleInstance::claim(const QStringList &arguments)
+SingleInstance::Claim SingleInstance::claim(const QStringList &arguments, const HandOver &handOver)
 {
     std::unique_ptr<QLocalSocket> running;
     {
-        const NameLock lock;
+        const InstanceLock lock;
         if (!arguments.contains(QLatin1String(ProcessServices::kRestartSwitch))) {
-            running = connectToRunningInstance();
+            running = m_name.connectToInstance();
         }
         if (!running) {
-            return listen(sharedName()) ? Claim::Granted : Claim::Refused;
+            return listen(m_name.toTake()) ? Claim::Granted : Claim::Refused;
         }
     }
-    sendArguments(*running, arguments);
+    if (handOver) {
+        handOver(*running);
+    } else {
+        sendArguments(*running, arguments);
+    }
     return Claim::HandedOver;
 }
 
@@ -139,13 +88,13 @@ bool SingleInstance::listen(const QString &name)
     // Apart from keeping others out, this makes the new socket replace one that a killed process
     // or the predecessor of a restart left, in a single step.
     m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    connect(
-        m_server.get(), &QLocalServer::newConnection, this, &SingleInstance::receiveAnotherStart);
+    connect(m_server.get(), &QLocalServer::newConnection, this, &SingleInstance::receiveVisitors);
     if (m_server->listen(name)) {
         m_socketIdentity = fileIdentity(m_server->fullServerName());
         return true;
     }
-    return name != ownName() && nameBelongsToAnotherUser(*m_server, name) && listen(ownName());
+    return name != m_name.own() && nameBelongsToAnotherUser(*m_server, name)
+        && listen(m_name.own());
 }
 
 bool SingleInstance::nameIsTakenOver() const
@@ -153,12 +102,44 @@ bool SingleInstance::nameIsTakenOver() const
     return fileIdentity(m_server->fullServerName()) != m_socketIdentity;
 }
 
-void SingleInstance::receiveAnotherStart()
+void SingleInstance::receiveVisitors()
 {
     // Connections that nobody takes would fill the queue and make a later start take this
     // instance for dead.
     while (QLocalSocket *connection = m_server->nextPendingConnection()) {
-        connect(connection, &QLocalSocket::disconnected, connection, &QObject::deleteLater);
-        emit startedAgain();
+        if (makeRoom()) {
+            receive(connection);
+        } else {
+            connection->deleteLater();
+        }
     }
+}
+
+void SingleInstance::receive(QLocalSocket *connection)
+{
+    auto *visitor = new Visitor(connection, this); // deletes itself
+    connect(visitor, &Visitor::startedAgain, this, &SingleInstance::startedAgain);
+    connect(visitor, &Visitor::asked, this,
+        [this, guest = QPointer(visitor)](const QList<Command> &commands) {
+            emit asked(commands, [guest](const CommandReply &reply) {
+                if (guest) {
+                    guest->answer(reply);
+                }
+            });
+        });
+}
+
+/// The one that has been silent for the longest time gives way to a new one.
+bool SingleInstance::makeRoom()
+{
+    const auto visitors = findChildren<Visitor *>(QString(), Qt::FindDirectChildrenOnly);
+    if (visitors.size() < kMaxVisitors) {
+        return true;
+    }
+    const auto silent = std::ranges::find_if(visitors, &Visitor::isSilent);
+    if (silent == visitors.end()) {
+        return false;
+    }
+    (*silent)->dismiss();
+    return true;
 }

@@ -1,16 +1,21 @@
 #pragma once
 
+#include "app/command.h"
+#include "app/instancename.h"
+#include "platform/display.h"
 #include "platform/fileidentity.h"
 
 #include <QLocalServer>
 #include <QObject>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
-/// Keeps a single running instance per user, by a local socket that is open while the program
-/// runs. A later start hands its arguments over and gives way; nobody acts on the arguments.
+/// Keeps a single running instance per user and display, by a local socket that is open while the
+/// program runs. A later start hands over its commands, or its mere arguments, on which nobody
+/// acts, and gives way.
 class SingleInstance : public QObject
 {
     Q_OBJECT
@@ -21,25 +26,33 @@ public:
         HandedOver, ///< another one runs and has been told
         Refused, ///< the name cannot be had
     };
+    using HandOver = std::function<void(QLocalSocket &)>;
+    using Answer = std::function<void(const CommandReply &)>;
 
-    SingleInstance() = default;
+    /// `display` is where this process shows its windows.
+    explicit SingleInstance(const QString &display = ownDisplay({}));
     /// Gives the name up, unless a restarted instance has taken it over meanwhile.
     ~SingleInstance() override;
 
-    /// `arguments` as the program got them, its path included. Blocks for the time-outs of the
-    /// hand-over.
-    [[nodiscard]] Claim claim(const QStringList &arguments);
+    /// `arguments` as the program got them, its path included; `handOver` tells a running instance
+    /// something else than them. Blocks for the time-outs of the hand-over.
+    [[nodiscard]] Claim claim(const QStringList &arguments, const HandOver &handOver = {});
 
 signals:
     /// The user started the program once more.
     void startedAgain();
+    /// Another start wants these carried out, and `answer` called once, whenever that is.
+    void asked(const QList<Command> &commands, const Answer &answer);
 
 private:
     [[nodiscard]] bool listen(const QString &name);
     [[nodiscard]] bool nameIsTakenOver() const;
     void closeBesidesSuccessor();
-    void receiveAnotherStart();
+    void receiveVisitors();
+    void receive(QLocalSocket *connection);
+    [[nodiscard]] bool makeRoom();
 
+    InstanceName m_name;
     std::unique_ptr<QLocalServer> m_server;
     std::optional<FileIdentity> m_socketIdentity;
 };

@@ -38,7 +38,10 @@ void ProcessServices::restartApplication()
 {
     qDebug() << LogTexts::kRestarting;
     const QString program = QCoreApplication::applicationFilePath();
-    const QStringList arguments{ QLatin1String(kRestartSwitch) };
+    QStringList arguments{ QLatin1String(kRestartSwitch) };
+    if (QCoreApplication::arguments().contains(QLatin1String(kWithoutTraySwitch))) {
+        arguments << QLatin1String(kWithoutTraySwitch);
+    }
     qDebug() << LogTexts::kStartingInstance << program;
     if (QProcess::startDetached(program, arguments)) {
         qDebug() << LogTexts::kInstanceStarted;

@@ -8,6 +8,8 @@ namespace ProcessServices
 
 /// Tells the new process that its predecessor may still be closing.
 inline constexpr char kRestartSwitch[] = "--restart";
+/// Starts also where there is no notification area; a restart hands it on.
+inline constexpr char kWithoutTraySwitch[] = "--without-tray";
 
 /// Starts a new instance of this executable, which this one gives way to by ending. False when it
 /// cannot be started.

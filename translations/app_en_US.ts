@@ -46,6 +46,140 @@
     </message>
 </context>
 <context>
+    <name>CommandClient</name>
+    <message>
+        <source>正在运行的程序没有回应。请退出后重新启动它</source>
+        <translation>The running program does not answer. Please quit it and start it again</translation>
+    </message>
+    <message>
+        <source>程序没有运行，这里也没有可以显示它的桌面。请先在桌面上启动它</source>
+        <translation>The program is not running, and there is no desktop here to show it on. Please start it on a desktop first</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>开始绘制</source>
+        <translation>Start drawing</translation>
+    </message>
+    <message>
+        <source>停止绘制，把鼠标还给桌面</source>
+        <translation>Stop drawing and give the desktop its pointer back</translation>
+    </message>
+    <message>
+        <source>在绘制和鼠标之间切换</source>
+        <translation>Switch between drawing and the pointer</translation>
+    </message>
+    <message>
+        <source>用画笔绘制</source>
+        <translation>Draw with the pen</translation>
+    </message>
+    <message>
+        <source>用荧光笔绘制</source>
+        <translation>Draw with the highlighter</translation>
+    </message>
+    <message>
+        <source>在点击处输入文字</source>
+        <translation>Write text where you click</translation>
+    </message>
+    <message>
+        <source>绘制直线</source>
+        <translation>Draw lines</translation>
+    </message>
+    <message>
+        <source>绘制圆形</source>
+        <translation>Draw circles</translation>
+    </message>
+    <message>
+        <source>绘制矩形</source>
+        <translation>Draw rectangles</translation>
+    </message>
+    <message>
+        <source>绘制箭头</source>
+        <translation>Draw arrows</translation>
+    </message>
+    <message>
+        <source>放置编号</source>
+        <translation>Place numbers</translation>
+    </message>
+    <message>
+        <source>使用橡皮擦</source>
+        <translation>Use the eraser</translation>
+    </message>
+    <message>
+        <source>撤销上一步</source>
+        <translation>Take back the last step</translation>
+    </message>
+    <message>
+        <source>恢复撤销的一步</source>
+        <translation>Do again what was taken back</translation>
+    </message>
+    <message>
+        <source>清除所有标记</source>
+        <translation>Clear all marks</translation>
+    </message>
+    <message>
+        <source>隐藏标记，不会丢失；再次绘制时重新显示</source>
+        <translation>Hide the marks without losing them; drawing shows them again</translation>
+    </message>
+    <message>
+        <source>显示标记</source>
+        <translation>Show the marks</translation>
+    </message>
+    <message>
+        <source>截取整个屏幕，保存到指定文件或截图文件夹，并输出文件路径</source>
+        <translation>Capture the whole screen into the file, or into the folder for captures, and print the path</translation>
+    </message>
+    <message>
+        <source>开始录制整个屏幕</source>
+        <translation>Start to record the whole screen</translation>
+    </message>
+    <message>
+        <source>结束录制，并输出录像的路径</source>
+        <translation>End the recording and print the path of the video</translation>
+    </message>
+    <message>
+        <source>把标记保存为图片，并输出文件路径</source>
+        <translation>Save the marks as a picture and print the path</translation>
+    </message>
+    <message>
+        <source>打开设置</source>
+        <translation>Open the settings</translation>
+    </message>
+    <message>
+        <source>退出程序</source>
+        <translation>Quit the program</translation>
+    </message>
+    <message>
+        <source>没有系统托盘也启动；通过面板的菜单退出</source>
+        <translation>Start even without a notification area; leave with the palette&apos;s menu</translation>
+    </message>
+    <message>
+        <source>显示此说明</source>
+        <translation>Show this help</translation>
+    </message>
+    <message>
+        <source>显示版本号</source>
+        <translation>Show the version</translation>
+    </message>
+    <message>
+        <source>%1 后面缺少文件名</source>
+        <translation>%1 needs the name of a file</translation>
+    </message>
+    <message>
+        <source>多余的参数：%1</source>
+        <translation>One word too many: %1</translation>
+    </message>
+    <message>
+        <source>无法识别的参数：%1。--help 列出所有参数</source>
+        <translation>Unknown argument: %1. --help lists them all</translation>
+    </message>
+    <message>
+        <source>%1：屏幕标注笔。下列命令交给正在运行的程序依次执行；程序没有运行时先启动它。</source>
+        <translation>%1, a pen for the whole screen. The commands below are carried out in order by the running program, which is started first where none runs.</translation>
+    </message>
+</context>
+<context>
     <name>DragHandle</name>
     <message>
         <source>移动工具栏</source>
@@ -665,6 +799,52 @@
     </message>
 </context>
 <context>
+    <name>Remote</name>
+    <message>
+        <source>命令没有在规定时间内完成</source>
+        <translation>The command was not finished in time</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteControl</name>
+    <message>
+        <source>无法打开绘制窗口</source>
+        <translation>The drawing window cannot be opened</translation>
+    </message>
+    <message>
+        <source>没有可以撤销的操作</source>
+        <translation>There is nothing to take back</translation>
+    </message>
+    <message>
+        <source>没有可以恢复的操作</source>
+        <translation>There is nothing to do again</translation>
+    </message>
+    <message>
+        <source>画布上没有标记，没有保存图片</source>
+        <translation>There are no marks; no picture was saved</translation>
+    </message>
+    <message>
+        <source>无法打开设置窗口</source>
+        <translation>The settings cannot be opened</translation>
+    </message>
+    <message>
+        <source>已经在录制</source>
+        <translation>A recording is running already</translation>
+    </message>
+    <message>
+        <source>没有正在进行的录制</source>
+        <translation>No recording is running</translation>
+    </message>
+    <message>
+        <source>录制没有开始</source>
+        <translation>The recording did not start</translation>
+    </message>
+    <message>
+        <source>没有录制到内容</source>
+        <translation>Nothing was recorded</translation>
+    </message>
+</context>
+<context>
     <name>ScreenCapture</name>
     <message>
         <source>没有设置截图文件夹，请在设置中选择</source>
@@ -1086,6 +1266,13 @@
     <message>
         <source>开始录制</source>
         <translation>Record</translation>
+    </message>
+</context>
+<context>
+    <name>Visitor</name>
+    <message>
+        <source>正在运行的程序不认识这个命令。请退出后重新启动它</source>
+        <translation>The running program does not know this command. Please quit it and start it again</translation>
     </message>
 </context>
 <context>

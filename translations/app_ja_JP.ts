@@ -46,6 +46,140 @@
     </message>
 </context>
 <context>
+    <name>CommandClient</name>
+    <message>
+        <source>正在运行的程序没有回应。请退出后重新启动它</source>
+        <translation>実行中のプログラムが応答しません。終了してから起動し直してください</translation>
+    </message>
+    <message>
+        <source>程序没有运行，这里也没有可以显示它的桌面。请先在桌面上启动它</source>
+        <translation>プログラムは実行されておらず、ここには表示できるデスクトップがありません。先にデスクトップで起動してください</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>开始绘制</source>
+        <translation>描画を始める</translation>
+    </message>
+    <message>
+        <source>停止绘制，把鼠标还给桌面</source>
+        <translation>描画をやめ、ポインターをデスクトップに戻す</translation>
+    </message>
+    <message>
+        <source>在绘制和鼠标之间切换</source>
+        <translation>描画とポインターを切り替える</translation>
+    </message>
+    <message>
+        <source>用画笔绘制</source>
+        <translation>ペンで描く</translation>
+    </message>
+    <message>
+        <source>用荧光笔绘制</source>
+        <translation>蛍光ペンで描く</translation>
+    </message>
+    <message>
+        <source>在点击处输入文字</source>
+        <translation>クリックした位置に文字を入力する</translation>
+    </message>
+    <message>
+        <source>绘制直线</source>
+        <translation>直線を描く</translation>
+    </message>
+    <message>
+        <source>绘制圆形</source>
+        <translation>円を描く</translation>
+    </message>
+    <message>
+        <source>绘制矩形</source>
+        <translation>四角形を描く</translation>
+    </message>
+    <message>
+        <source>绘制箭头</source>
+        <translation>矢印を描く</translation>
+    </message>
+    <message>
+        <source>放置编号</source>
+        <translation>番号を置く</translation>
+    </message>
+    <message>
+        <source>使用橡皮擦</source>
+        <translation>消しゴムを使う</translation>
+    </message>
+    <message>
+        <source>撤销上一步</source>
+        <translation>直前の操作を元に戻す</translation>
+    </message>
+    <message>
+        <source>恢复撤销的一步</source>
+        <translation>元に戻した操作をやり直す</translation>
+    </message>
+    <message>
+        <source>清除所有标记</source>
+        <translation>すべての書き込みを消す</translation>
+    </message>
+    <message>
+        <source>隐藏标记，不会丢失；再次绘制时重新显示</source>
+        <translation>書き込みを失わずに隠す。描画すると再び表示される</translation>
+    </message>
+    <message>
+        <source>显示标记</source>
+        <translation>書き込みを表示する</translation>
+    </message>
+    <message>
+        <source>截取整个屏幕，保存到指定文件或截图文件夹，并输出文件路径</source>
+        <translation>画面全体を指定のファイルまたは保存フォルダーに保存し、パスを出力する</translation>
+    </message>
+    <message>
+        <source>开始录制整个屏幕</source>
+        <translation>画面全体の録画を始める</translation>
+    </message>
+    <message>
+        <source>结束录制，并输出录像的路径</source>
+        <translation>録画を終え、動画のパスを出力する</translation>
+    </message>
+    <message>
+        <source>把标记保存为图片，并输出文件路径</source>
+        <translation>書き込みを画像として保存し、パスを出力する</translation>
+    </message>
+    <message>
+        <source>打开设置</source>
+        <translation>設定を開く</translation>
+    </message>
+    <message>
+        <source>退出程序</source>
+        <translation>プログラムを終了する</translation>
+    </message>
+    <message>
+        <source>没有系统托盘也启动；通过面板的菜单退出</source>
+        <translation>通知領域がなくても起動する。終了はパレットのメニューから</translation>
+    </message>
+    <message>
+        <source>显示此说明</source>
+        <translation>この説明を表示する</translation>
+    </message>
+    <message>
+        <source>显示版本号</source>
+        <translation>バージョンを表示する</translation>
+    </message>
+    <message>
+        <source>%1 后面缺少文件名</source>
+        <translation>%1 の後にファイル名が必要です</translation>
+    </message>
+    <message>
+        <source>多余的参数：%1</source>
+        <translation>余分な引数です：%1</translation>
+    </message>
+    <message>
+        <source>无法识别的参数：%1。--help 列出所有参数</source>
+        <translation>不明な引数です：%1。--help で一覧を表示します</translation>
+    </message>
+    <message>
+        <source>%1：屏幕标注笔。下列命令交给正在运行的程序依次执行；程序没有运行时先启动它。</source>
+        <translation>%1：画面に書き込むペン。以下のコマンドは実行中のプログラムが順に実行します。実行されていなければ先に起動します。</translation>
+    </message>
+</context>
+<context>
     <name>DragHandle</name>
     <message>
         <source>移动工具栏</source>
@@ -665,6 +799,52 @@
     </message>
 </context>
 <context>
+    <name>Remote</name>
+    <message>
+        <source>命令没有在规定时间内完成</source>
+        <translation>コマンドが時間内に完了しませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteControl</name>
+    <message>
+        <source>无法打开绘制窗口</source>
+        <translation>描画ウィンドウを開けません</translation>
+    </message>
+    <message>
+        <source>没有可以撤销的操作</source>
+        <translation>元に戻せる操作がありません</translation>
+    </message>
+    <message>
+        <source>没有可以恢复的操作</source>
+        <translation>やり直せる操作がありません</translation>
+    </message>
+    <message>
+        <source>画布上没有标记，没有保存图片</source>
+        <translation>書き込みがないため、画像は保存されませんでした</translation>
+    </message>
+    <message>
+        <source>无法打开设置窗口</source>
+        <translation>設定を開けません</translation>
+    </message>
+    <message>
+        <source>已经在录制</source>
+        <translation>すでに録画中です</translation>
+    </message>
+    <message>
+        <source>没有正在进行的录制</source>
+        <translation>録画中ではありません</translation>
+    </message>
+    <message>
+        <source>录制没有开始</source>
+        <translation>録画が始まりませんでした</translation>
+    </message>
+    <message>
+        <source>没有录制到内容</source>
+        <translation>何も録画されませんでした</translation>
+    </message>
+</context>
+<context>
     <name>ScreenCapture</name>
     <message>
         <source>没有设置截图文件夹，请在设置中选择</source>
@@ -1086,6 +1266,13 @@
     <message>
         <source>开始录制</source>
         <translation>録画開始</translation>
+    </message>
+</context>
+<context>
+    <name>Visitor</name>
+    <message>
+        <source>正在运行的程序不认识这个命令。请退出后重新启动它</source>
+        <translation>実行中のプログラムはこのコマンドを認識できません。終了してから起動し直してください</translation>
     </message>
 </context>
 <context>

@@ -46,6 +46,140 @@
     </message>
 </context>
 <context>
+    <name>CommandClient</name>
+    <message>
+        <source>正在运行的程序没有回应。请退出后重新启动它</source>
+        <translation>실행 중인 프로그램이 응답하지 않습니다. 종료한 뒤 다시 시작하세요</translation>
+    </message>
+    <message>
+        <source>程序没有运行，这里也没有可以显示它的桌面。请先在桌面上启动它</source>
+        <translation>프로그램이 실행 중이 아니며 여기에는 표시할 데스크톱이 없습니다. 먼저 데스크톱에서 시작하세요</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>开始绘制</source>
+        <translation>그리기 시작</translation>
+    </message>
+    <message>
+        <source>停止绘制，把鼠标还给桌面</source>
+        <translation>그리기를 멈추고 포인터를 바탕 화면에 돌려주기</translation>
+    </message>
+    <message>
+        <source>在绘制和鼠标之间切换</source>
+        <translation>그리기와 포인터 전환</translation>
+    </message>
+    <message>
+        <source>用画笔绘制</source>
+        <translation>펜으로 그리기</translation>
+    </message>
+    <message>
+        <source>用荧光笔绘制</source>
+        <translation>형광펜으로 그리기</translation>
+    </message>
+    <message>
+        <source>在点击处输入文字</source>
+        <translation>클릭한 곳에 글자 입력</translation>
+    </message>
+    <message>
+        <source>绘制直线</source>
+        <translation>직선 그리기</translation>
+    </message>
+    <message>
+        <source>绘制圆形</source>
+        <translation>원 그리기</translation>
+    </message>
+    <message>
+        <source>绘制矩形</source>
+        <translation>사각형 그리기</translation>
+    </message>
+    <message>
+        <source>绘制箭头</source>
+        <translation>화살표 그리기</translation>
+    </message>
+    <message>
+        <source>放置编号</source>
+        <translation>번호 놓기</translation>
+    </message>
+    <message>
+        <source>使用橡皮擦</source>
+        <translation>지우개 사용</translation>
+    </message>
+    <message>
+        <source>撤销上一步</source>
+        <translation>마지막 작업 취소</translation>
+    </message>
+    <message>
+        <source>恢复撤销的一步</source>
+        <translation>취소한 작업 다시 하기</translation>
+    </message>
+    <message>
+        <source>清除所有标记</source>
+        <translation>모든 표시 지우기</translation>
+    </message>
+    <message>
+        <source>隐藏标记，不会丢失；再次绘制时重新显示</source>
+        <translation>표시를 잃지 않고 숨기기; 다시 그리면 나타남</translation>
+    </message>
+    <message>
+        <source>显示标记</source>
+        <translation>표시 보이기</translation>
+    </message>
+    <message>
+        <source>截取整个屏幕，保存到指定文件或截图文件夹，并输出文件路径</source>
+        <translation>전체 화면을 지정한 파일이나 캡처 폴더에 저장하고 경로를 출력</translation>
+    </message>
+    <message>
+        <source>开始录制整个屏幕</source>
+        <translation>전체 화면 녹화 시작</translation>
+    </message>
+    <message>
+        <source>结束录制，并输出录像的路径</source>
+        <translation>녹화를 끝내고 동영상의 경로를 출력</translation>
+    </message>
+    <message>
+        <source>把标记保存为图片，并输出文件路径</source>
+        <translation>표시를 그림으로 저장하고 경로를 출력</translation>
+    </message>
+    <message>
+        <source>打开设置</source>
+        <translation>설정 열기</translation>
+    </message>
+    <message>
+        <source>退出程序</source>
+        <translation>프로그램 종료</translation>
+    </message>
+    <message>
+        <source>没有系统托盘也启动；通过面板的菜单退出</source>
+        <translation>알림 영역이 없어도 시작; 종료는 팔레트 메뉴에서</translation>
+    </message>
+    <message>
+        <source>显示此说明</source>
+        <translation>이 설명 표시</translation>
+    </message>
+    <message>
+        <source>显示版本号</source>
+        <translation>버전 표시</translation>
+    </message>
+    <message>
+        <source>%1 后面缺少文件名</source>
+        <translation>%1 뒤에 파일 이름이 필요합니다</translation>
+    </message>
+    <message>
+        <source>多余的参数：%1</source>
+        <translation>불필요한 인수: %1</translation>
+    </message>
+    <message>
+        <source>无法识别的参数：%1。--help 列出所有参数</source>
+        <translation>알 수 없는 인수: %1. --help로 모두 볼 수 있습니다</translation>
+    </message>
+    <message>
+        <source>%1：屏幕标注笔。下列命令交给正在运行的程序依次执行；程序没有运行时先启动它。</source>
+        <translation>%1: 화면 전체에 쓰는 펜. 아래 명령은 실행 중인 프로그램이 차례로 수행하며, 실행 중이 아니면 먼저 시작합니다.</translation>
+    </message>
+</context>
+<context>
     <name>DragHandle</name>
     <message>
         <source>移动工具栏</source>
@@ -665,6 +799,52 @@
     </message>
 </context>
 <context>
+    <name>Remote</name>
+    <message>
+        <source>命令没有在规定时间内完成</source>
+        <translation>명령이 제시간에 끝나지 않았습니다</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteControl</name>
+    <message>
+        <source>无法打开绘制窗口</source>
+        <translation>그리기 창을 열 수 없습니다</translation>
+    </message>
+    <message>
+        <source>没有可以撤销的操作</source>
+        <translation>취소할 작업이 없습니다</translation>
+    </message>
+    <message>
+        <source>没有可以恢复的操作</source>
+        <translation>다시 할 작업이 없습니다</translation>
+    </message>
+    <message>
+        <source>画布上没有标记，没有保存图片</source>
+        <translation>표시가 없어 그림을 저장하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>无法打开设置窗口</source>
+        <translation>설정을 열 수 없습니다</translation>
+    </message>
+    <message>
+        <source>已经在录制</source>
+        <translation>이미 녹화 중입니다</translation>
+    </message>
+    <message>
+        <source>没有正在进行的录制</source>
+        <translation>진행 중인 녹화가 없습니다</translation>
+    </message>
+    <message>
+        <source>录制没有开始</source>
+        <translation>녹화가 시작되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>没有录制到内容</source>
+        <translation>녹화된 내용이 없습니다</translation>
+    </message>
+</context>
+<context>
     <name>ScreenCapture</name>
     <message>
         <source>没有设置截图文件夹，请在设置中选择</source>
@@ -1086,6 +1266,13 @@
     <message>
         <source>开始录制</source>
         <translation>녹화 시작</translation>
+    </message>
+</context>
+<context>
+    <name>Visitor</name>
+    <message>
+        <source>正在运行的程序不认识这个命令。请退出后重新启动它</source>
+        <translation>실행 중인 프로그램이 이 명령을 알지 못합니다. 종료한 뒤 다시 시작하세요</translation>
     </message>
 </context>
 <context>

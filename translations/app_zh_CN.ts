@@ -46,6 +46,140 @@
     </message>
 </context>
 <context>
+    <name>CommandClient</name>
+    <message>
+        <source>正在运行的程序没有回应。请退出后重新启动它</source>
+        <translation>正在运行的程序没有回应。请退出后重新启动它</translation>
+    </message>
+    <message>
+        <source>程序没有运行，这里也没有可以显示它的桌面。请先在桌面上启动它</source>
+        <translation>程序没有运行，这里也没有可以显示它的桌面。请先在桌面上启动它</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>开始绘制</source>
+        <translation>开始绘制</translation>
+    </message>
+    <message>
+        <source>停止绘制，把鼠标还给桌面</source>
+        <translation>停止绘制，把鼠标还给桌面</translation>
+    </message>
+    <message>
+        <source>在绘制和鼠标之间切换</source>
+        <translation>在绘制和鼠标之间切换</translation>
+    </message>
+    <message>
+        <source>用画笔绘制</source>
+        <translation>用画笔绘制</translation>
+    </message>
+    <message>
+        <source>用荧光笔绘制</source>
+        <translation>用荧光笔绘制</translation>
+    </message>
+    <message>
+        <source>在点击处输入文字</source>
+        <translation>在点击处输入文字</translation>
+    </message>
+    <message>
+        <source>绘制直线</source>
+        <translation>绘制直线</translation>
+    </message>
+    <message>
+        <source>绘制圆形</source>
+        <translation>绘制圆形</translation>
+    </message>
+    <message>
+        <source>绘制矩形</source>
+        <translation>绘制矩形</translation>
+    </message>
+    <message>
+        <source>绘制箭头</source>
+        <translation>绘制箭头</translation>
+    </message>
+    <message>
+        <source>放置编号</source>
+        <translation>放置编号</translation>
+    </message>
+    <message>
+        <source>使用橡皮擦</source>
+        <translation>使用橡皮擦</translation>
+    </message>
+    <message>
+        <source>撤销上一步</source>
+        <translation>撤销上一步</translation>
+    </message>
+    <message>
+        <source>恢复撤销的一步</source>
+        <translation>恢复撤销的一步</translation>
+    </message>
+    <message>
+        <source>清除所有标记</source>
+        <translation>清除所有标记</translation>
+    </message>
+    <message>
+        <source>隐藏标记，不会丢失；再次绘制时重新显示</source>
+        <translation>隐藏标记，不会丢失；再次绘制时重新显示</translation>
+    </message>
+    <message>
+        <source>显示标记</source>
+        <translation>显示标记</translation>
+    </message>
+    <message>
+        <source>截取整个屏幕，保存到指定文件或截图文件夹，并输出文件路径</source>
+        <translation>截取整个屏幕，保存到指定文件或截图文件夹，并输出文件路径</translation>
+    </message>
+    <message>
+        <source>开始录制整个屏幕</source>
+        <translation>开始录制整个屏幕</translation>
+    </message>
+    <message>
+        <source>结束录制，并输出录像的路径</source>
+        <translation>结束录制，并输出录像的路径</translation>
+    </message>
+    <message>
+        <source>把标记保存为图片，并输出文件路径</source>
+        <translation>把标记保存为图片，并输出文件路径</translation>
+    </message>
+    <message>
+        <source>打开设置</source>
+        <translation>打开设置</translation>
+    </message>
+    <message>
+        <source>退出程序</source>
+        <translation>退出程序</translation>
+    </message>
+    <message>
+        <source>没有系统托盘也启动；通过面板的菜单退出</source>
+        <translation>没有系统托盘也启动；通过面板的菜单退出</translation>
+    </message>
+    <message>
+        <source>显示此说明</source>
+        <translation>显示此说明</translation>
+    </message>
+    <message>
+        <source>显示版本号</source>
+        <translation>显示版本号</translation>
+    </message>
+    <message>
+        <source>%1 后面缺少文件名</source>
+        <translation>%1 后面缺少文件名</translation>
+    </message>
+    <message>
+        <source>多余的参数：%1</source>
+        <translation>多余的参数：%1</translation>
+    </message>
+    <message>
+        <source>无法识别的参数：%1。--help 列出所有参数</source>
+        <translation>无法识别的参数：%1。--help 列出所有参数</translation>
+    </message>
+    <message>
+        <source>%1：屏幕标注笔。下列命令交给正在运行的程序依次执行；程序没有运行时先启动它。</source>
+        <translation>%1：屏幕标注笔。下列命令交给正在运行的程序依次执行；程序没有运行时先启动它。</translation>
+    </message>
+</context>
+<context>
     <name>DragHandle</name>
     <message>
         <source>移动工具栏</source>
@@ -665,6 +799,52 @@
     </message>
 </context>
 <context>
+    <name>Remote</name>
+    <message>
+        <source>命令没有在规定时间内完成</source>
+        <translation>命令没有在规定时间内完成</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteControl</name>
+    <message>
+        <source>无法打开绘制窗口</source>
+        <translation>无法打开绘制窗口</translation>
+    </message>
+    <message>
+        <source>没有可以撤销的操作</source>
+        <translation>没有可以撤销的操作</translation>
+    </message>
+    <message>
+        <source>没有可以恢复的操作</source>
+        <translation>没有可以恢复的操作</translation>
+    </message>
+    <message>
+        <source>画布上没有标记，没有保存图片</source>
+        <translation>画布上没有标记，没有保存图片</translation>
+    </message>
+    <message>
+        <source>无法打开设置窗口</source>
+        <translation>无法打开设置窗口</translation>
+    </message>
+    <message>
+        <source>已经在录制</source>
+        <translation>已经在录制</translation>
+    </message>
+    <message>
+        <source>没有正在进行的录制</source>
+        <translation>没有正在进行的录制</translation>
+    </message>
+    <message>
+        <source>录制没有开始</source>
+        <translation>录制没有开始</translation>
+    </message>
+    <message>
+        <source>没有录制到内容</source>
+        <translation>没有录制到内容</translation>
+    </message>
+</context>
+<context>
     <name>ScreenCapture</name>
     <message>
         <source>没有设置截图文件夹，请在设置中选择</source>
@@ -1086,6 +1266,13 @@
     <message>
         <source>开始录制</source>
         <translation>开始录制</translation>
+    </message>
+</context>
+<context>
+    <name>Visitor</name>
+    <message>
+        <source>正在运行的程序不认识这个命令。请退出后重新启动它</source>
+        <translation>正在运行的程序不认识这个命令。请退出后重新启动它</translation>
     </message>
 </context>
 <context>

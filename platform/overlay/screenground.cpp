@@ -49,7 +49,7 @@ QRegion visiblePixels(QQuickPaintedItem *item)
 /// What the item shows, in the window's coordinates.
 QRegion shapeOf(QQuickItem *item)
 {
-    if (!item->isVisible())
+    if (!item->isVisible() || item->opacity() == 0.0)
         return {};
     if (auto *painted = qobject_cast<QQuickPaintedItem *>(item))
         return visiblePixels(painted);

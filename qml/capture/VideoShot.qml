@@ -21,11 +21,20 @@ Window {
 
     signal close()
     signal sigClose()
+    /// The recorder writes to the file at `path`.
+    signal began(string path)
+    /// A recording is over, or did not come about. The file is whole; `path` is empty without one.
+    signal ended(string path, string failure)
 
     property bool recording: false
     /// The user has ended the recording; the window closes once the file is whole.
     property bool leaving: false
     property bool failureTold: false
+    /// Why the latest recording failed; empty when it did not.
+    property string failure: ""
+    /// Records the whole screen as soon as the window stands, and closes whatever comes of it.
+    property bool whole: false
+    property bool begun: false
     /// How long the recording has run; empty while none does.
     readonly property alias elapsed: indicator.elapsed
 
@@ -75,6 +84,7 @@ Window {
         const option = getAudioOption();
         console.log("开始录制 - 音频选项:", option);
         failureTold = false;
+        failure = "";
         // The recorder counts from the whole desktop's corner, in physical pixels.
         const left = x + borderMargin + Screen.virtualX / devicePixelRatio;
         const top = y + borderMargin + Screen.virtualY / devicePixelRatio;
@@ -87,6 +97,12 @@ Window {
         }
         recording = captureObject.isRecording();
         console.log("录制已开始，界面已隐藏");
+    }
+
+    function recordAll() {
+        // This region leaves no room for the margins, nor for the marks that they keep out.
+        videoScreenshot(-borderMargin, -borderMargin,
+                        Screen.width + 2 * borderMargin, Screen.height + 3 * borderMargin);
     }
 
     function toggle() {
@@ -107,14 +123,23 @@ Window {
         if (failureTold)
             return;
         failureTold = true;
+        failure = detail;
         Notices.show({
             heading: qsTr("录制失败"),
             detail: detail,
             filePath: captureObject.report.savedFile(),
             isFailure: true,
             // A panel that stays would lie over it.
-            transientParent: leaving ? null : root
+            transientParent: leaving || whole ? null : root
         });
+        if (!recording)
+            finish();
+    }
+
+    function finish() {
+        ended(captureObject.report.filePath, failure);
+        if (leaving || whole)
+            close();
     }
 
     function tellSaved() {
@@ -140,6 +165,12 @@ Window {
         Notices.clear();
         ground.prepare();
     }
+    onFrameSwapped: {
+        if (!whole || begun)
+            return;
+        begun = true;
+        recordAll();
+    }
     // Closed in the midst of a recording, whose file is whole but for its last moment.
     Component.onDestruction: {
         if (captureObject.isRecording())
@@ -164,8 +195,7 @@ Window {
                 return;
             root.recording = false;
             root.tellSaved();
-            if (root.leaving)
-                root.close();
+            root.finish();
         }
         onRecordingError: errorMessage => {
             console.log("QML监听到：录制错误:", errorMessage);
@@ -177,6 +207,10 @@ Window {
     Connections {
         target: captureObject.report
 
+        function onFilePathChanged() {
+            if (captureObject.report.filePath !== "")
+                root.began(captureObject.report.filePath);
+        }
         function onWarning(code, text) {
             indicator.add(messages.warning(code, text));
         }
@@ -204,7 +238,7 @@ Window {
         borderMargin: root.borderMargin
         blurryColor: root.blurryColor
         selectDot: root.selectDot
-        marksVisible: !root.leaving
+        marksVisible: !root.leaving && !root.whole
 
         CornerMarks {
             id: corners
@@ -222,7 +256,7 @@ Window {
     RegionBar {
         id: functionRect
         region: region
-        visible: !region.drawing && !root.recording && !root.leaving
+        visible: !region.drawing && !root.recording && !root.leaving && !root.whole
 
         FluComboBox {
             id: audioList

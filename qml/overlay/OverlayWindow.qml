@@ -27,6 +27,8 @@ Window {
     /// Only the first text editor of a run shows its frame and key hints.
     property alias showText: textEntry.showText
     property string lastElementId: ""
+    /// False while the marks are kept out of sight; whoever draws on sees them again.
+    property bool marksShown: true
     /// The colour to draw on, kept while pass-through shows the desktop instead.
     property color boardColor: "transparent"
 
@@ -43,6 +45,7 @@ Window {
         root.drawingWanted();
         root.raise();
         root.visible = true;
+        root.marksShown = true;
         if (root.ct)
             root.color = root.boardColor;
         root.ct = false;
@@ -61,6 +64,16 @@ Window {
         root.ct = true;
         root.passThroughWanted();
     }
+
+    function hideMarks(): void {
+        pointer.finishGesture();
+        textEntry.submitAndClose();
+        selectionFrame.dismiss();
+        root.marksShown = false;
+    }
+
+    /// Makes a mark of what is being typed.
+    function submitText(): void { textEntry.submitAndClose(); }
 
     function openColorDialog(): void { dialogs.openColor(); }
     function closeColorDialog(): void { dialogs.closeColor(); }
@@ -163,6 +176,7 @@ Window {
         MyPainter {
             id: myPainter
             anchors.fill: parent
+            opacity: root.marksShown ? 1 : 0 // and not invisible: it is what takes the pointer
             onElementAdded: elementId => {
                 root.lastElementId = elementId;
                 console.log(OverlayLog.elementAdded, elementId);
@@ -177,6 +191,7 @@ Window {
                 picture: backgroundPicture
                 textMode: root.textInputMode
                 eraserTip: overlaySurface.eraserTip
+                onPressed: root.marksShown = true
                 onDrewOrDeleted: root.clickDrawWin()
                 onGestureEnded: root.requestRaiseMain()
             }

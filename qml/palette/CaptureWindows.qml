@@ -17,6 +17,11 @@ Item {
     readonly property var panel: recordLoader.item
     /// How long the recording has run; empty while none does.
     readonly property string elapsed: panel?.elapsed ?? ""
+    readonly property bool recording: panel?.recording ?? false
+
+    signal recordingBegan()
+    /// `path` is empty when nothing was recorded, `failure` when nothing went wrong.
+    signal recordingEnded(string path, string failure)
 
     /// On the next turn of the event loop: a loader must have let go of its former window first,
     /// and a window must not be deleted under its own signal.
@@ -37,12 +42,24 @@ Item {
                 recordLoader.source = "";
             return;
         }
+        openPanel(false);
+    }
+
+    function openPanel(whole) {
         recordIcon = "qrc:/icons/stop.png";
         recordLoader.source = "";
         recordLoader.active = false;
         recordLoader.active = true;
         nextTurn(() => recordLoader.setSource("qrc:/VideoShot.qml",
-                                              { sPath: settings.recordingFolder() }));
+                                              { sPath: settings.recordingFolder(), whole: whole }));
+    }
+
+    /// Records the region of a panel that is open, else the whole screen.
+    function startRecording() {
+        if (panel)
+            panel.toggle();
+        else
+            openPanel(true);
     }
 
     Loader {
@@ -61,6 +78,8 @@ Item {
     Connections {
         target: root.panel
         ignoreUnknownSignals: true
+        function onBegan() { root.recordingBegan(); }
+        function onEnded(path, failure) { root.recordingEnded(path, failure); }
         function onClose() {
             console.log("VideoShot窗口关闭，检查录制状态");
             root.recordIcon = root.idleIcon;

@@ -1,13 +1,19 @@
 import QtQuick
 import "Notices.js" as Notices
 
-/// Captures the whole screen, but for the notice about the capture before it.
+/// Captures the whole screen, but for the notice about the capture before it, into the folder for
+/// captures or into a file of one's choice.
 Item {
     id: root
 
     required property var settings
+    property string file: ""
 
-    function capture() {
+    /// `failure` is empty when the picture was saved at `path`.
+    signal taken(string path, string failure)
+
+    function capture(to = "") {
+        file = to;
         if (Notices.clear())
             patience.start();
         else
@@ -15,8 +21,14 @@ Item {
     }
 
     function take() {
-        root.settings.captureScreen();
-        outcome.tell(root.settings.captureResult());
+        if (file !== "")
+            settings.captureScreenTo(file);
+        else
+            settings.captureScreen();
+        const result = settings.captureResult();
+        if (file === "")
+            outcome.tell(result);
+        taken(result.path ?? "", result.message ?? "");
     }
 
     CaptureOutcome { id: outcome }

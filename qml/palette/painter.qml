@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Window
 import Cpp.MyComponents
 import Dravelin.Platform
+import Dravelin.Shell
 
 /// The tool palette: the program's main window, always on top at the edge of the screen.
 Window {
@@ -33,7 +34,7 @@ Window {
     property int seX: 0
     property int seY: 0
     readonly property int rightMargin: placement.rightMargin()
-    property string appVersion: "3.2.0"
+    property string appVersion: Shell.version
 
     readonly property bool drawing: drawAble && drawWindow !== null
     /// The monitor that the palette stands on, in the virtual desktop's coordinates.
@@ -112,7 +113,8 @@ Window {
     onClosing: close => {
         // What was drawn would go with the program; the tray brings the palette back.
         close.accepted = false;
-        hide();
+        if (Shell.hasTray())
+            hide();
     }
 
     Component.onCompleted: {
@@ -156,6 +158,8 @@ Window {
         videoCapture: videoCaptureObj
         settings: settingClazz
     }
+
+    RemoteControl { palette: root; settings: settingClazz }
 
     ButtonToolTips { id: tip; palette: root; flyouts: flyouts }
 

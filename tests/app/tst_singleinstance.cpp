@@ -1,5 +1,9 @@
 #include "app/singleinstance.h"
 
+#include "app/commandclient.h"
+#include "app/commandwire.h"
+#include "platform/currentuser.h"
+
 #include <QDir>
 #include <QFile>
 #include <QLocalServer>
@@ -7,6 +11,9 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
+
+#include <sys/stat.h>
 
 namespace
 {
@@ -22,6 +29,39 @@ QStringList commandLine(const QStringList &arguments)
 {
     return QStringList{ "/opt/dravelin" } + arguments;
 }
+
+/// A display on which this process does not run.
+const QString kElsewhere = QStringLiteral("x11 elsewhere:7");
+
+QString lockPath()
+{
+    return QDir::tempPath() + '/' + kName + '-' + currentUser() + ".lock";
+}
+
+/// A start with commands, on a thread of its own, since it waits for its answer.
+class CommandStart
+{
+public:
+    explicit CommandStart(const QList<Command> &commands)
+        : m_thread(QThread::create([this, commands] {
+              SingleInstance start;
+              m_claim = start.claim(commandLine({ "--undo" }),
+                  [&](QLocalSocket &running) { m_reply = CommandClient::ask(running, commands); });
+          }))
+    {
+        m_thread->start();
+    }
+    Q_DISABLE_COPY_MOVE(CommandStart)
+    ~CommandStart() { m_thread->wait(); }
+
+    bool isOver() const { return m_thread->isFinished(); }
+    std::optional<CommandReply> reply() const { return m_reply; }
+
+private:
+    SingleInstance::Claim m_claim{};
+    std::optional<CommandReply> m_reply;
+    std::unique_ptr<QThread> m_thread;
+};
 
 bool somebodyAnswers()
 {
@@ -58,6 +98,13 @@ private slots:
     void aRestartTakesTheNameOverForGood();
     void aSocketLeftByAKilledProcessIsNoInstance();
     void aNameThatCannotBeHadIsRefused();
+    void everyDisplayHasItsInstance();
+    void aRestartStaysOnItsDisplay();
+    void whatLiesInTheLocksPlaceHoldsNobodyUp();
+    void commandsAreHandedOverAndAnswered();
+    void visitorsGetLittleRoom_data();
+    void visitorsGetLittleRoom();
+    void silentVisitorsMakeRoomForOthers();
 };
 
 void TestSingleInstance::initMain()
@@ -145,6 +192,122 @@ void TestSingleInstance::aNameThatCannotBeHadIsRefused()
         QCOMPARE(instance.claim(commandLine({})), SingleInstance::Claim::Refused);
     }
     QDir(socketPath()).removeRecursively();
+}
+
+void TestSingleInstance::everyDisplayHasItsInstance()
+{
+    QVERIFY2(!ownDisplay({}).isEmpty(), "the test needs QT_QPA_PLATFORM or a display");
+    SingleInstance here;
+    QCOMPARE(here.claim(commandLine({})), SingleInstance::Claim::Granted);
+    SingleInstance there(kElsewhere);
+    QCOMPARE(there.claim(commandLine({})), SingleInstance::Claim::Granted);
+    QSignalSpy startedHere(&here, &SingleInstance::startedAgain);
+    QSignalSpy startedThere(&there, &SingleInstance::startedAgain);
+
+    QCOMPARE(SingleInstance(kElsewhere).claim(commandLine({})), SingleInstance::Claim::HandedOver);
+    QTRY_COMPARE(startedThere.size(), 1);
+    QCOMPARE(SingleInstance().claim(commandLine({})), SingleInstance::Claim::HandedOver);
+    QTRY_COMPARE(startedHere.size(), 1);
+    QCOMPARE(startedThere.size(), 1);
+}
+
+void TestSingleInstance::aRestartStaysOnItsDisplay()
+{
+    SingleInstance here;
+    QCOMPARE(here.claim(commandLine({})), SingleInstance::Claim::Granted);
+    auto closing = std::make_unique<SingleInstance>(kElsewhere);
+    QCOMPARE(closing->claim(commandLine({})), SingleInstance::Claim::Granted);
+    SingleInstance restarted(kElsewhere);
+    QCOMPARE(restarted.claim(commandLine({ "--restart" })), SingleInstance::Claim::Granted);
+    closing.reset();
+    QSignalSpy startedHere(&here, &SingleInstance::startedAgain);
+    QSignalSpy startedThere(&restarted, &SingleInstance::startedAgain);
+
+    QCOMPARE(SingleInstance(kElsewhere).claim(commandLine({})), SingleInstance::Claim::HandedOver);
+    QTRY_COMPARE(startedThere.size(), 1);
+    QCOMPARE(SingleInstance().claim(commandLine({})), SingleInstance::Claim::HandedOver);
+    QTRY_COMPARE(startedHere.size(), 1);
+}
+
+void TestSingleInstance::whatLiesInTheLocksPlaceHoldsNobodyUp()
+{
+    const QByteArray path = QFile::encodeName(lockPath());
+    const std::pair<const char *, std::function<int()>> rows[] = {
+        { "a named pipe", [&path] { return mkfifo(path.constData(), 0600); } },
+        { "a folder", [&path] { return mkdir(path.constData(), 0700); } },
+        { "a link to nowhere", [&path] { return symlink("/nowhere/at/all", path.constData()); } },
+    };
+    for (const auto &[what, make] : rows) {
+        QCOMPARE(make(), 0);
+        QElapsedTimer timer;
+        timer.start();
+        {
+            SingleInstance instance;
+            QCOMPARE(instance.claim(commandLine({})), SingleInstance::Claim::Granted);
+        }
+        QVERIFY2(timer.elapsed() < 2000, what); // what a lock that hangs is waited for, once
+        QVERIFY(QFile::remove(lockPath()) || QDir().rmdir(lockPath()));
+    }
+}
+
+void TestSingleInstance::commandsAreHandedOverAndAnswered()
+{
+    SingleInstance running;
+    QCOMPARE(running.claim(commandLine({})), SingleInstance::Claim::Granted);
+    QSignalSpy started(&running, &SingleInstance::startedAgain);
+    QSignalSpy asked(&running, &SingleInstance::asked);
+    const QList<Command> commands{ { Verbs::Draw, {} }, { Verbs::Export, "/tmp/图.png" } };
+    const CommandReply reply{ false, { "/tmp/图.png" }, "没有" };
+    CommandStart start(commands);
+    QTRY_COMPARE(asked.size(), 1);
+    QCOMPARE(asked[0][0].value<QList<Command>>(), commands);
+    asked[0][1].value<SingleInstance::Answer>()(reply);
+    QTRY_VERIFY(start.isOver());
+    QCOMPARE(start.reply(), reply);
+    QCOMPARE(started.size(), 0); // commands leave the palette where it is
+}
+
+void TestSingleInstance::visitorsGetLittleRoom_data()
+{
+    QTest::addColumn<QByteArray>("start");
+    QTest::addColumn<int>("starts");
+
+    QTest::newRow("words without end") << QByteArray("a") << 1;
+    QTest::newRow("a request without end") << QByteArray(1, CommandWire::kRequestMark) << 0;
+}
+
+void TestSingleInstance::visitorsGetLittleRoom()
+{
+    QFETCH(QByteArray, start);
+    QFETCH(int, starts);
+    SingleInstance running;
+    QCOMPARE(running.claim(commandLine({})), SingleInstance::Claim::Granted);
+    QSignalSpy started(&running, &SingleInstance::startedAgain);
+    QLocalSocket visitor;
+    visitor.connectToServer(kName);
+    QVERIFY(visitor.waitForConnected());
+    qint64 taken = 0;
+    connect(
+        &visitor, &QLocalSocket::bytesWritten, this, [&taken](qint64 bytes) { taken += bytes; });
+    visitor.write(start + QByteArray(8 * 1024 * 1024, 'x'));
+    QTRY_COMPARE(visitor.state(), QLocalSocket::UnconnectedState);
+    QCOMPARE(started.size(), starts);
+    QVERIFY2(taken < 2 * 1024 * 1024, qPrintable(QString::number(taken)));
+}
+
+void TestSingleInstance::silentVisitorsMakeRoomForOthers()
+{
+    SingleInstance running;
+    QCOMPARE(running.claim(commandLine({})), SingleInstance::Claim::Granted);
+    std::vector<std::unique_ptr<QLocalSocket>> visitors;
+    for (int i = 0; i < 40; ++i) {
+        visitors.push_back(std::make_unique<QLocalSocket>());
+        visitors.back()->connectToServer(kName);
+        QVERIFY(visitors.back()->waitForConnected());
+        QCoreApplication::processEvents();
+    }
+    QTRY_COMPARE(visitors.front()->state(), QLocalSocket::UnconnectedState);
+    QCOMPARE(visitors.back()->state(), QLocalSocket::ConnectedState);
 }
 
 QTEST_GUILESS_MAIN(TestSingleInstance)
