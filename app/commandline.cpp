@@ -73,6 +73,12 @@ QString withoutDashes(const QString &argument)
         : QString();
 }
 
+bool takesFile(const QString &argument)
+{
+    const auto verb = verbCalled(withoutDashes(argument));
+    return verb && verb->file != VerbName::File::None;
+}
+
 /// The parser knows no value that may be left out: it is given an empty one.
 QStringList withEveryValue(QStringList arguments)
 {
@@ -157,7 +163,7 @@ void CommandLine::explainRejection(const QCommandLineParser &parser, const QStri
     if (!unknown.isEmpty()) {
         const QLatin1String dashes(unknown.first().size() > 1 ? "--" : "-");
         blame(Fault::Unknown, dashes + unknown.first());
-    } else if (verbCalled(withoutDashes(arguments.last()))) {
+    } else if (takesFile(arguments.last())) {
         blame(Fault::NoFile, arguments.last());
     } else {
         blame(Fault::Unknown, rejected(arguments));

@@ -11,7 +11,7 @@ Remote::Remote(int timeoutMs, QObject *parent) : QObject(parent)
 
 Remote *Remote::instance()
 {
-    static auto *const remote = new Remote;
+    static auto *const remote = new Remote(kTimeoutMs);
     return remote;
 }
 

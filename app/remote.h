@@ -27,7 +27,8 @@ public:
     /// What all commands of a request may take together.
     static constexpr int kTimeoutMs = 25000;
 
-    explicit Remote(int timeoutMs = kTimeoutMs, QObject *parent = nullptr);
+    /// Without a default: the engine would prefer that to `create`.
+    explicit Remote(int timeoutMs, QObject *parent = nullptr);
 
     [[nodiscard]] static Remote *instance();
     /// For the engine, which does not get to own it.
