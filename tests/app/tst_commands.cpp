@@ -5,8 +5,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <algorithm>
-
 using Purpose = CommandLine::Purpose;
 using Commands = QList<Command>;
 using namespace Qt::StringLiterals;

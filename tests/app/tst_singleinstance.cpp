@@ -5,6 +5,7 @@
 #include "platform/currentuser.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
@@ -13,7 +14,9 @@
 #include <QTest>
 #include <QThread>
 
+#include <functional>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
