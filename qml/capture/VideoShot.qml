@@ -137,7 +137,7 @@ Window {
     }
 
     function finish() {
-        ended(captureObject.report.filePath, failure);
+        ended(captureObject.report.filePath, failure); // qmllint disable
         if (leaving || whole)
             close();
     }
@@ -208,7 +208,7 @@ Window {
         target: captureObject.report
 
         function onFilePathChanged() {
-            if (captureObject.report.filePath !== "")
+            if (captureObject.report.filePath !== "") // qmllint disable
                 root.began(captureObject.report.filePath);
         }
         function onWarning(code, text) {
