@@ -28,8 +28,10 @@ QString RecorderReport::savedFile() const
 void RecorderReport::readOutput()
 {
     m_output.add(m_process->readAllStandardOutput(), [this](const QString &line) {
-        if (line.startsWith(RecorderProtocol::kFilePrefix))
+        if (line.startsWith(RecorderProtocol::kFilePrefix)) {
             m_filePath = line.mid(RecorderProtocol::kFilePrefix.size());
+            emit begun();
+        }
     });
 }
 

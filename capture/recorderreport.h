@@ -26,6 +26,8 @@ public:
     void clear();
 
 signals:
+    /// The recorder has begun its file.
+    void begun();
     /// Something was lost but the recording goes on. `code` is one of `RecorderProtocol::Code`.
     void warning(const QString &code, const QString &text);
     /// The recording fails for this reason. `code` is empty when a failed recorder left nothing but

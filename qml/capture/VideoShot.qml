@@ -21,8 +21,8 @@ Window {
 
     signal close()
     signal sigClose()
-    /// The recorder writes to the file at `path`.
-    signal began(string path)
+    /// The recorder has begun its file.
+    signal began()
     /// A recording is over, or did not come about. The file is whole; `path` is empty without one.
     signal ended(string path, string failure)
 
@@ -137,7 +137,7 @@ Window {
     }
 
     function finish() {
-        ended(captureObject.report.filePath, failure); // qmllint disable
+        ended(captureObject.report.savedFile(), failure);
         if (leaving || whole)
             close();
     }
@@ -207,10 +207,7 @@ Window {
     Connections {
         target: captureObject.report
 
-        function onFilePathChanged() {
-            if (captureObject.report.filePath !== "") // qmllint disable
-                root.began(captureObject.report.filePath);
-        }
+        function onBegun() { root.began(); }
         function onWarning(code, text) {
             indicator.add(messages.warning(code, text));
         }
