@@ -55,7 +55,7 @@ class AnswersTest(desktop.DesktopTestCase):
 
 
 class CommandsTest(CommandTestCase):
-    expected_warning = "HOME|runtime directory"
+    expected_warning = "HOME|runtime directory|截图保存失败"
 
     def test_drawing_undoing_hiding_and_saving(self):
         self.tell("--rectangle")

@@ -170,7 +170,7 @@ class RecordingTest(RecordingTestCase):
         self.expect_failure("无法写入录像文件")
         self.program.stop()
 
-        self.launch(PATH=self.tools)
+        self.launch(PATH=self.browser.tools)
         self.expect_failure("没有找到 FFmpeg")
         self.program.stop()
 

@@ -8,14 +8,14 @@ from .waiting import wait_for
 
 class Browser:
     """Stands in for the program that opens files and pages: it only notes what it is given. It is
-    found by whoever has `path` as its PATH."""
+    found by whoever has `path` as its PATH, and is all there is in the folder `tools`."""
 
     def __init__(self, folder):
-        tools = os.path.join(folder, "tools")
-        os.makedirs(tools)
-        self.path = f"{tools}:{os.environ['PATH']}"
+        self.tools = os.path.join(folder, "tools")
+        os.makedirs(self.tools)
+        self.path = f"{self.tools}:{os.environ['PATH']}"
         self._opened = os.path.join(folder, "opened")
-        browser = os.path.join(tools, "xdg-open")
+        browser = os.path.join(self.tools, "xdg-open")
         with open(browser, "w", encoding="utf-8") as script:
             script.write(f'#!/bin/sh\necho "$1" > {self._opened}.part\n'
                          f"mv {self._opened}.part {self._opened}\n")

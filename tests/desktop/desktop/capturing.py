@@ -32,11 +32,11 @@ class CaptureTestCase(DesktopTestCase):
     def setUp(self):
         super().setUp()
         self.folder = os.path.join(self.desktop.home, "课件 recordings #1")
-        self._browser = Browser(self.desktop.folder)
+        self.browser = Browser(self.desktop.folder)
 
     def launch(self, folder=None, **env):
         store_settings(self.desktop.home, screenSavePath=folder or self.folder)
-        self.follow(self.start(scale=self.scale, env={"PATH": self._browser.path, **env}))
+        self.follow(self.start(scale=self.scale, env={"PATH": self.browser.path, **env}))
 
     def follow(self, program):
         self.program = program
@@ -73,7 +73,7 @@ class CaptureTestCase(DesktopTestCase):
 
     def expect_opened_folder(self):
         """Waits until the file browser was given the folder."""
-        self.assertEqual(self._browser.wait_for_file(), self.folder)
+        self.assertEqual(self.browser.wait_for_file(), self.folder)
 
     def captures(self):
         """Paths of the files made so far."""
