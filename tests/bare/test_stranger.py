@@ -87,6 +87,8 @@ class StrangerTestCase(desktop.DesktopTestCase):
 
     def draw(self):
         self.palette.start_drawing()
+        # As wide as it gets: a JPEG blurs what is narrow.
+        self.palette.choose("thickness", "d")
         self.desktop.pointer.drag([(399, 350), (400, 350), (600, 350)])
         self.wait_for_pixel(500, 350, lambda seen: desktop.near(seen, RED, 60), "the stroke")
 
