@@ -13,6 +13,8 @@
 #include <QSystemTrayIcon>
 #include <QThread>
 
+#include <cstdio>
+
 namespace
 {
 
@@ -34,7 +36,9 @@ void reportNoSystemTray(QApplication &application)
 {
     qDebug() << StartupLogTexts::kNoSystemTray;
     loadTranslation(&application, Startup::chooseLanguage());
-    showDesktopNotice(QLatin1String(Identity::kDisplayName),
-        QCoreApplication::translate(
-            "main", "桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。"));
+    const QString reason = QCoreApplication::translate(
+        "main", "桌面没有系统托盘，程序无法运行。请启用面板的通知区域，或用 --without-tray 启动。");
+    showDesktopNotice(QLatin1String(Identity::kDisplayName), reason);
+    // The desktop may show no notices either; whoever started it from a terminal reads this.
+    std::fputs((reason + u'\n').toLocal8Bit().constData(), stderr);
 }

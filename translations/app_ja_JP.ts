@@ -1297,8 +1297,8 @@
         <translation>終了</translation>
     </message>
     <message>
-        <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</source>
-        <translation>デスクトップにシステムトレイがないため、実行できません。パネルの通知領域を有効にしてから、もう一度起動してください。</translation>
+        <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域，或用 --without-tray 启动。</source>
+        <translation>デスクトップにシステムトレイがないため、実行できません。パネルの通知領域を有効にするか、--without-tray を付けて起動してください。</translation>
     </message>
     <message>
         <source>上一次更新没有完成，也无法恢复。请重新安装本程序。</source>

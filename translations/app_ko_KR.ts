@@ -1297,8 +1297,8 @@
         <translation>종료</translation>
     </message>
     <message>
-        <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</source>
-        <translation>데스크톱에 시스템 트레이가 없어 실행할 수 없습니다. 패널의 알림 영역을 켠 뒤 다시 실행하세요.</translation>
+        <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域，或用 --without-tray 启动。</source>
+        <translation>데스크톱에 시스템 트레이가 없어 실행할 수 없습니다. 패널의 알림 영역을 켜거나 --without-tray로 실행하세요.</translation>
     </message>
     <message>
         <source>上一次更新没有完成，也无法恢复。请重新安装本程序。</source>

@@ -1297,8 +1297,8 @@
         <translation>退出</translation>
     </message>
     <message>
-        <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</source>
-        <translation>桌面没有系统托盘，程序无法运行。请启用面板的通知区域后重试。</translation>
+        <source>桌面没有系统托盘，程序无法运行。请启用面板的通知区域，或用 --without-tray 启动。</source>
+        <translation>桌面没有系统托盘，程序无法运行。请启用面板的通知区域，或用 --without-tray 启动。</translation>
     </message>
     <message>
         <source>上一次更新没有完成，也无法恢复。请重新安装本程序。</source>
