@@ -47,8 +47,11 @@ bool Places::isUnset(const QString &folder)
 
 QString Places::recordings(const QString &chosen)
 {
-    const bool byDefault =
-        !ProgramFolder::isWritable() && (isUnset(chosen) || isSameFolder(chosen, captures()));
+    if (ProgramFolder::isWritable()) {
+        // Where the store cannot be written, nothing is stored however often it is filled in.
+        return isUnset(chosen) ? captures() : chosen;
+    }
+    const bool byDefault = isUnset(chosen) || isSameFolder(chosen, captures());
     return byDefault ? madeFolder(QStandardPaths::MoviesLocation) : chosen;
 }
 

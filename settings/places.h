@@ -15,8 +15,9 @@ namespace Places
 /// the program's own folder, which an earlier run stored but which cannot be written.
 [[nodiscard]] bool isUnset(const QString &folder);
 
-/// The folder for recordings when captures go to `chosen`: the same one, unless that is only the
-/// user's folder for pictures by default; then the one for videos.
+/// The folder for recordings when captures go to `chosen`, which may be empty: the same one, unless
+/// that is only the user's folder for pictures by default; then the one for videos. Never empty
+/// where `captures` is not.
 [[nodiscard]] QString recordings(const QString &chosen);
 
 /// The deployment files that are read, the first that knows a key first.

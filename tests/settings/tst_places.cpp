@@ -27,7 +27,7 @@ int tell()
     const QString stored = SettingsStore::loadAll().value(kSavePath).toString();
     const QJsonObject told{ { "writable", ProgramFolder::isWritable() }, { "captures", stored },
         { "storedCaptures", SettingsStore::read(kSavePath).toString() },
-        { "recordings", Places::recordings(stored) },
+        { "recordings", Places::recordings(SettingsStore::read(kSavePath).toString()) },
         { "chosenRecordings", Places::recordings("/chosen") },
         { "opengl", Deployment::value("APP", "opengl") },
         { "url", Deployment::value("UPDATE", "UpdateURL") },
@@ -103,6 +103,12 @@ void TestPlaces::everythingStaysBesideAWritableProgram()
     QVERIFY(!QFile::exists(home(".config/korvath/config.ini")));
     QCOMPARE(QDir(program("")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
         QStringList({ "config.ini", "copy" }));
+
+    m_environment.insert("XDG_CONFIG_HOME", "/proc/none");
+    const QJsonObject unstored = ask();
+    QCOMPARE(unstored["storedCaptures"].toString(), QString());
+    QCOMPARE(unstored["captures"], told["captures"]);
+    QCOMPARE(unstored["recordings"], told["captures"]);
 }
 
 void TestPlaces::aReadOnlyFolderLeavesItToTheUsersFolders()
