@@ -1,12 +1,12 @@
 #include "help/helpdesk.h"
 
 #include "help/helppage.h"
+#include "platform/wholefile.h"
 #include "settings/settingsstore.h"
 
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -29,9 +29,10 @@ QString write(const QString &fileName, const QString &page)
         }
         const QString path = folder + QLatin1Char('/') + fileName;
         const QByteArray content = page.toUtf8();
-        QSaveFile file(path);
-        if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size()
-            && file.commit()) {
+        const QString problem = WholeFile::write(path, [&](QFileDevice &file) {
+            return file.write(content) == content.size() ? QString() : file.errorString();
+        });
+        if (problem.isEmpty()) {
             return path;
         }
     }
