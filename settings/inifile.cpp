@@ -1,5 +1,6 @@
 #include "settings/inifile.h"
 
+#include "platform/wholefile.h"
 #include "settings/logtexts.h"
 #include "settings/settingsfile.h"
 
@@ -84,7 +85,7 @@ bool IniFile::copyAside() const
     const QString stamp =
         QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_hhmmss_zzz"));
     const QString copy = m_path + QLatin1String(".broken-") + stamp;
-    if (!QFile::copy(m_path, copy)) {
+    if (!WholeFile::copy(m_path, copy)) {
         return false;
     }
     qWarning() << LogTexts::kBrokenIniFile << copy;

@@ -41,13 +41,13 @@ bool SettingsClazz::addSetting(const QString &key, const QVariant &value)
     return changed(SettingsStore::write(key, value));
 }
 
-bool SettingsClazz::changed(bool written)
+bool SettingsClazz::changed(QSettings::Status status)
 {
-    m_storeProblem = written
-        ? QString()
-        : tr("无法写入 %1，请检查磁盘空间和文件夹的权限").arg(SettingsStore::path());
+    m_storeProblem = status == QSettings::AccessError
+        ? tr("无法写入 %1，请检查磁盘空间和文件夹的权限").arg(SettingsStore::path())
+        : QString();
     emit settingsChanged();
-    return written;
+    return status == QSettings::NoError;
 }
 
 QString SettingsClazz::storeProblem() const
@@ -140,8 +140,8 @@ void SettingsClazz::copyToClipboard(const QString &text)
 
 bool SettingsClazz::setLanguage(const QString &language)
 {
-    if (!addSetting(QLatin1String(SettingsKeys::kAppLanguage), language)
-        || !applyLanguage(language)) {
+    addSetting(QLatin1String(SettingsKeys::kAppLanguage), language);
+    if (!m_storeProblem.isEmpty() || !applyLanguage(language)) {
         return false;
     }
     emit settingsChanged();

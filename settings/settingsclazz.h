@@ -3,6 +3,7 @@
 #include "settings/screencapture.h"
 
 #include <QObject>
+#include <QSettings>
 #include <QVariant>
 #include <QVariantList>
 #include <QVariantMap>
@@ -31,7 +32,8 @@ signals:
 public:
     /// A map of every stored setting, with defaults filled in and stored.
     Q_INVOKABLE QVariant getAllSettings();
-    /// False when the store could not be written; `settingsChanged` is emitted in either case.
+    /// False when the store could not be written, see `storeProblem`, or when something in it had
+    /// been unreadable; `settingsChanged` is emitted in any case.
     Q_INVOKABLE bool addSetting(const QString &key, const QVariant &value);
     Q_INVOKABLE QString getSettingByKey(const QString &key);
     Q_INVOKABLE bool removeSetting(const QString &key);
@@ -77,7 +79,7 @@ public:
     Q_INVOKABLE QString storeProblem() const;
 
 private:
-    bool changed(bool written);
+    bool changed(QSettings::Status status);
 
     QString m_storeProblem;
     ScreenCapture::Outcome m_captureOutcome;

@@ -1,6 +1,7 @@
 #include "settings/settingsfile.h"
 
 #include "platform/filesync.h"
+#include "platform/wholefile.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -14,6 +15,7 @@ namespace
 {
 
 constexpr int kLockTimeoutMs = 5000;
+constexpr int kMostLinks = 40; // as many as the system follows
 
 /// The texts of all values: what is read back has no other types.
 QVariantMap texts(const QSettings &settings)
@@ -31,6 +33,20 @@ bool rename(const QString &from, const QString &to)
     std::filesystem::rename(QFileInfo(from).filesystemAbsoluteFilePath(),
         QFileInfo(to).filesystemAbsoluteFilePath(), problem);
     return !problem;
+}
+
+/// What a link points to is replaced, not the link; it may point to a further link, or to a file
+/// that is still to be made.
+QString behindLinks(const QString &path)
+{
+    QFileInfo place(path);
+    if (place.exists()) {
+        return place.canonicalFilePath();
+    }
+    for (int links = 0; place.isSymLink() && links < kMostLinks; ++links) {
+        place.setFile(place.symLinkTarget());
+    }
+    return place.filePath();
 }
 
 bool reachedTheDisk(const QString &path)
@@ -97,9 +113,7 @@ private:
     /// A copy that a full disk cut short would otherwise be taken for all that is stored.
     bool copyOriginal()
     {
-        return !m_original.exists()
-            || (QFile::copy(m_original.filePath(), edited())
-                && QFileInfo(edited()).size() == QFileInfo(m_original.filePath()).size());
+        return !m_original.exists() || WholeFile::copy(m_original.filePath(), edited());
     }
     [[nodiscard]] QString edited() const { return m_folder.filePath(QStringLiteral("edited")); }
     [[nodiscard]] QString proven() const { return m_folder.filePath(QStringLiteral("proven")); }
@@ -113,9 +127,7 @@ private:
 QSettings::Status editFile(
     const QString &path, QSettings::Format format, const std::function<void(QSettings &)> &change)
 {
-    const QFileInfo link(path);
-    // What a link points to is replaced, not the link.
-    const QFileInfo original(link.isSymLink() ? link.symLinkTarget() : path);
+    const QFileInfo original(behindLinks(path));
     if (original.exists() && (!original.isFile() || !original.isWritable())) {
         return QSettings::AccessError;
     }

@@ -103,10 +103,10 @@ QVariantMap fillInShortcuts(QVariantMap &settings)
     return missing;
 }
 
-bool edit(const std::function<void(QSettings &)> &change)
+QSettings::Status edit(const std::function<void(QSettings &)> &change)
 {
-    return UserHome::hasConfiguration()
-        && SettingsFile::edit(UserStore(), change) == QSettings::NoError;
+    return UserHome::hasConfiguration() ? SettingsFile::edit(UserStore(), change)
+                                        : QSettings::AccessError;
 }
 
 void storeAll(const QVariantMap &values)
@@ -139,12 +139,12 @@ QVariantMap loadAll()
     return settings;
 }
 
-bool write(const QString &key, const QVariant &value)
+QSettings::Status write(const QString &key, const QVariant &value)
 {
     return edit([&](QSettings &store) { store.setValue(key, value); });
 }
 
-bool remove(const QString &key)
+QSettings::Status remove(const QString &key)
 {
     return edit([&](QSettings &store) { store.remove(key); });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSettings>
 #include <QString>
 #include <QVariantMap>
 
@@ -12,11 +13,12 @@ namespace SettingsStore
 /// written back. Sizes and points become maps that the interface can read.
 [[nodiscard]] QVariantMap loadAll();
 
-/// False when the store could not be written.
-bool write(const QString &key, const QVariant &value);
+/// QSettings::NoError; QSettings::AccessError when the store could not be written;
+/// QSettings::FormatError when it was, without what had been unreadable in it.
+QSettings::Status write(const QString &key, const QVariant &value);
 
-/// Removes a key or a whole group. False when the store could not be written.
-bool remove(const QString &key);
+/// Removes a key or a whole group; the same.
+QSettings::Status remove(const QString &key);
 
 /// Where the store lies, for people: a file, or a path in the system's registry.
 [[nodiscard]] QString path();

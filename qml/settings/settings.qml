@@ -49,7 +49,8 @@ PanelWindow {
     }
 
     function saveKeyAndReload(key, value) {
-        if (!settingClazz.addSetting(key, value))
+        settingClazz.addSetting(key, value);
+        if (settingClazz.storeProblem() !== "")
             tellProblem(qsTr("设置无法保存"));
         console.log("保存设置:", key, value);
         loadSettings();

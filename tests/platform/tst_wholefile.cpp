@@ -32,6 +32,7 @@ public:
 
 private slots:
     void aDiskWithoutRoomKeepsTheOlderFile();
+    void aFolderThatTakesNoNewFileKeepsNoFileFromBeingWritten();
     void whatCannotBeReplacedStays();
     void linksAreFollowedAndPermissionsKept();
 };
@@ -53,6 +54,31 @@ void TestWholeFile::aDiskWithoutRoomKeepsTheOlderFile()
     QVERIFY(disk.refuseWrites());
     QVERIFY(!write(path, "new").isEmpty());
     QCOMPARE(content(path), kOld);
+}
+
+void TestWholeFile::aFolderThatTakesNoNewFileKeepsNoFileFromBeingWritten()
+{
+    SmallDisk folder(16 * SmallDisk::kPageBytes);
+    SmallDisk disk(16 * SmallDisk::kPageBytes);
+    QVERIFY(folder.isMounted() && disk.isMounted());
+    const QString path = folder.filePath("file");
+    const QString file = disk.filePath("file");
+    QCOMPARE(write(path, "covered"), QString());
+    QCOMPARE(write(file, "older and longer"), QString());
+    QCOMPARE(::mount(qPrintable(file), qPrintable(path), nullptr, MS_BIND, nullptr), 0);
+    QVERIFY(folder.refuseWrites());
+    QCOMPARE(write(path, kOld), QString());
+    QCOMPARE(content(file), kOld);
+    QCOMPARE(write(path, "short"), QString());
+    QCOMPARE(content(file), QByteArray("short"));
+    for (int pages = 0; pages < 3; ++pages) {
+        disk.fill(pages);
+        QVERIFY(!write(path, QByteArray((pages + 1) * SmallDisk::kPageBytes + 1, 'n')).isEmpty());
+        QCOMPARE(content(file), QByteArray("short"));
+        disk.empty();
+    }
+    QVERIFY(!write(folder.filePath("new"), "new").isEmpty());
+    ::umount(qPrintable(path));
 }
 
 void TestWholeFile::whatCannotBeReplacedStays()

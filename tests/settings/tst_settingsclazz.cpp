@@ -17,6 +17,7 @@ private slots:
     void init() { ThrowawayStore::clear(); }
     void theMethodTableKeepsItsOrder();
     void everyWriteIsAnnouncedOnce();
+    void onlyWhatIsNotStoredIsAProblem();
     void theFreeValueIsAnnouncedOnlyWhenItChanges();
     void theDeploymentFileIsCreatedOnTheFirstWrite();
     void textReachesTheClipboard();
@@ -62,6 +63,28 @@ void TestSettingsClazz::everyWriteIsAnnouncedOnce()
     QCOMPARE(changed.size(), 4);
     QVERIFY(!settings.setLanguage("en_US"));
     QCOMPARE(changed.size(), 5);
+}
+
+void TestSettingsClazz::onlyWhatIsNotStoredIsAProblem()
+{
+    SettingsClazz settings;
+    const auto damage = [] {
+        QFile store(ThrowawayStore::folder() + "/korvath/settings.conf");
+        return store.open(QIODevice::WriteOnly) && store.write("[General]\nnonsense\na=1\n") > 0;
+    };
+    QVERIFY(damage());
+    QVERIFY(!settings.addSetting("penKey", "F9"));
+    QCOMPARE(settings.storeProblem(), QString());
+    QCOMPARE(settings.getSettingByKey("penKey"), "F9");
+    QCOMPARE(settings.getSettingByKey("a"), "1");
+    QVERIFY(damage());
+    QVERIFY(settings.setLanguage("en_US"));
+    QCOMPARE(settings.getCurrentLanguage(), "en_US");
+    ThrowawayStore::clear();
+
+    const ThrowawayStore::Unwritable unwritable;
+    QVERIFY(!settings.removeSetting("penKey"));
+    QVERIFY(settings.storeProblem().contains("korvath"));
 }
 
 void TestSettingsClazz::theFreeValueIsAnnouncedOnlyWhenItChanges()

@@ -21,6 +21,7 @@ private slots:
     void aFreshUserGetsSevenDefaultsThatAreStored();
     void storedValuesWinOverDefaults();
     void groupsSizesAndPointsBecomeMaps();
+    void aStoreBehindLinksStaysBehindThem();
     void aStoreThatCannotBeWrittenIsReported();
     void aFullDiskKeepsWhatIsStored();
 };
@@ -45,10 +46,10 @@ void TestSettingsStore::aFreshUserGetsSevenDefaultsThatAreStored()
 void TestSettingsStore::storedValuesWinOverDefaults()
 {
     const QString folder = "/tmp/截图 folder";
-    QVERIFY(SettingsStore::write("screenKey", QString()));
-    QVERIFY(SettingsStore::write("penKey", "F9"));
-    QVERIFY(SettingsStore::write("screenSavePath", folder));
-    QVERIFY(SettingsStore::write("lineKey", "Ctrl+K"));
+    QCOMPARE(SettingsStore::write("screenKey", QString()), QSettings::NoError);
+    QCOMPARE(SettingsStore::write("penKey", "F9"), QSettings::NoError);
+    QCOMPARE(SettingsStore::write("screenSavePath", folder), QSettings::NoError);
+    QCOMPARE(SettingsStore::write("lineKey", "Ctrl+K"), QSettings::NoError);
 
     QVariantMap settings = SettingsStore::loadAll();
     QCOMPARE(settings.value("screenKey"), QString());
@@ -57,32 +58,49 @@ void TestSettingsStore::storedValuesWinOverDefaults()
     QCOMPARE(settings.value("lineKey"), "Ctrl+K");
 
     // A screenshot needs some folder, so here an empty text counts as nothing.
-    QVERIFY(SettingsStore::write("screenSavePath", QString()));
+    QCOMPARE(SettingsStore::write("screenSavePath", QString()), QSettings::NoError);
     settings = SettingsStore::loadAll();
     QCOMPARE(settings.value("screenSavePath"), QCoreApplication::applicationDirPath());
 }
 
 void TestSettingsStore::groupsSizesAndPointsBecomeMaps()
 {
-    QVERIFY(SettingsStore::write("window/palette/at", QPoint(-5, 6)));
-    QVERIFY(SettingsStore::write("window/palette/size", QSize(3, 4)));
-    QVERIFY(SettingsStore::write("window/title", "画笔"));
-    QVERIFY(SettingsStore::write("windows", 7));
+    QCOMPARE(SettingsStore::write("window/palette/at", QPoint(-5, 6)), QSettings::NoError);
+    QCOMPARE(SettingsStore::write("window/palette/size", QSize(3, 4)), QSettings::NoError);
+    QCOMPARE(SettingsStore::write("window/title", "画笔"), QSettings::NoError);
+    QCOMPARE(SettingsStore::write("windows", 7), QSettings::NoError);
     const QVariantMap palette{ { "at", QVariantMap{ { "x", -5 }, { "y", 6 } } },
         { "size", QVariantMap{ { "width", 3 }, { "height", 4 } } } };
     const QVariantMap window{ { "palette", palette }, { "title", "画笔" } };
     QCOMPARE(SettingsStore::loadAll().value("window").toMap(), window);
 
-    QVERIFY(SettingsStore::remove("window"));
+    QCOMPARE(SettingsStore::remove("window"), QSettings::NoError);
     QVERIFY(!SettingsStore::read("window/title").isValid());
     QCOMPARE(SettingsStore::read("windows").toInt(), 7);
+}
+
+void TestSettingsStore::aStoreBehindLinksStaysBehindThem()
+{
+    const QTemporaryDir elsewhere;
+    const QString store = ThrowawayStore::folder() + "/korvath/settings.conf";
+    const QString link = elsewhere.filePath("link");
+    const QString file = elsewhere.filePath("file");
+    QFile::remove(store);
+    QVERIFY(QFile::link(link, store) && QFile::link(file, link));
+    for (const char *key : { "F8", "F9" }) { // made by the first, replaced by the second
+        QCOMPARE(SettingsStore::write("penKey", key), QSettings::NoError);
+        QVERIFY(QFileInfo(store).isSymLink());
+        QCOMPARE(QFile::symLinkTarget(link), file);
+        QCOMPARE(QSettings(file, QSettings::IniFormat).value("penKey"), key);
+    }
+    QVERIFY(QFile::remove(store));
 }
 
 void TestSettingsStore::aStoreThatCannotBeWrittenIsReported()
 {
     const ThrowawayStore::Unwritable unwritable;
-    QVERIFY(!SettingsStore::write("penKey", "F9"));
-    QVERIFY(!SettingsStore::remove("penKey"));
+    QCOMPARE(SettingsStore::write("penKey", "F9"), QSettings::AccessError);
+    QCOMPARE(SettingsStore::remove("penKey"), QSettings::AccessError);
     QCOMPARE(SettingsStore::loadAll().size(), 7);
 }
 
@@ -90,20 +108,20 @@ void TestSettingsStore::aFullDiskKeepsWhatIsStored()
 {
     SmallDisk disk(24 * SmallDisk::kPageBytes, ThrowawayStore::folder());
     QVERIFY(disk.isMounted());
-    QVERIFY(SettingsStore::write("penKey", "F8"));
-    QVERIFY(SettingsStore::write("at", QPoint(-5, 6)));
+    QCOMPARE(SettingsStore::write("penKey", "F8"), QSettings::NoError);
+    QCOMPARE(SettingsStore::write("at", QPoint(-5, 6)), QSettings::NoError);
     // Somewhere there is room for a lock and for an empty file, but for nothing in it.
     bool written = false;
     for (int pages = 0; pages < 8; ++pages) {
         disk.fill(pages);
         const QString key = QStringLiteral("F%1").arg(pages);
-        written = SettingsStore::write("penKey", key);
+        written = SettingsStore::write("penKey", key) == QSettings::NoError;
         const ThrowawayStore::Store store;
         QCOMPARE(store.value("penKey").toString(), written ? key : "F8");
         QCOMPARE(store.value("at"), QPoint(-5, 6));
         disk.empty();
         if (written) {
-            QVERIFY(SettingsStore::write("penKey", "F8"));
+            QCOMPARE(SettingsStore::write("penKey", "F8"), QSettings::NoError);
         }
     }
     QVERIFY(written);
