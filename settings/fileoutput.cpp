@@ -6,7 +6,8 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
-#include <QFileDevice>
+#include <QFile>
+#include <QFileInfo>
 
 #include <optional>
 
@@ -35,6 +36,14 @@ std::optional<QByteArray> decode(const QByteArray &data)
     return QByteArray::fromBase64(data.mid(comma + 1));
 }
 
+/// The log is no part of the interface and does not change its language with it.
+QString refusal(const QString &path, const QString &problem)
+{
+    QFile file(path);
+    return QFileInfo(path).isDir() && !file.open(QIODevice::WriteOnly) ? file.errorString()
+                                                                       : problem;
+}
+
 bool write(const QByteArray &payload, const QString &path)
 {
     bool opened = false;
@@ -44,7 +53,7 @@ bool write(const QByteArray &payload, const QString &path)
     });
     if (!opened) {
         qWarning() << LogTexts::kCannotOpenFile << path << LogTexts::kCannotOpenFileError
-                   << problem;
+                   << refusal(path, problem);
         return false;
     }
     if (!problem.isEmpty()) {
