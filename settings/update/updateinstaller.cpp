@@ -48,21 +48,20 @@ bool isThere(const QString &path)
     return info.exists() || info.isSymLink();
 }
 
-/// Puts `fresh` in the place of `path`, whose former content goes to `former`. At best there is
-/// never a moment without a file at `path`; a running Windows program has to be moved out of the
-/// way.
+/// Puts `fresh` in the place of `path`, whose former content is kept as `former`, or goes there
+/// where the disk knows no second names. At best there is never a moment without a file at `path`;
+/// a running Windows program has to be moved out of the way.
 std::error_code replace(const QString &path, const QString &fresh, const QString &former)
 {
-    std::error_code problem;
-    fs::create_hard_link(native(path), native(former), problem);
-    if (!problem) {
-        problem = rename(fresh, path);
-        if (!problem) {
-            return {};
-        }
+    if (isThere(former) && !rename(fresh, path)) {
+        return {};
     }
-    problem = rename(path, former);
-    return problem ? problem : rename(fresh, path);
+    const std::error_code problem = rename(path, former);
+    if (problem) {
+        return problem;
+    }
+    syncFolder(QFileInfo(former).path());
+    return rename(fresh, path);
 }
 
 QString syncContent(const QString &path)
@@ -74,11 +73,15 @@ QString syncContent(const QString &path)
     return syncFile(file) ? QString() : qt_error_string();
 }
 
+/// All of them, down from `root`: each has the name of the next.
 void syncFoldersOf(const QString &root, const QStringList &names)
 {
-    QSet<QString> folders;
+    QSet<QString> folders{ root };
     for (const QString &name : names) {
-        folders.insert(QFileInfo(root + QLatin1Char('/') + name).path());
+        for (qsizetype end = name.indexOf(QLatin1Char('/')); end >= 0;
+             end = name.indexOf(QLatin1Char('/'), end + 1)) {
+            folders.insert(root + QLatin1Char('/') + name.left(end));
+        }
     }
     for (const QString &folder : folders) {
         syncFolder(folder);
@@ -227,9 +230,26 @@ QString UpdateInstaller::adoptPermissions(const QString &name, bool isProgram) c
                                                                      : tr("无法设置文件权限");
 }
 
+/// A second name for each file that is to be replaced. Whoever reads the journal after a power
+/// failure takes a file that is not kept for one that was not replaced yet, so the names are on the
+/// disk before there is a journal.
+void UpdateInstaller::keepFormer() const
+{
+    for (const QString &name : m_plan.names()) {
+        QDir().mkpath(QFileInfo(former(name)).path());
+    }
+    for (const QString &name : m_plan.replaced) {
+        std::error_code unknownToTheDisk;
+        fs::create_hard_link(native(inFolder(name)), native(former(name)), unknownToTheDisk);
+    }
+    syncFoldersOf(former({}), m_plan.names());
+    syncFolder(inFolder(kWorkFolder));
+}
+
 /// From the moment the journal is on the disk until it is gone, the old files count.
 QString UpdateInstaller::swap()
 {
+    keepFormer();
     const QJsonObject plan{ { kReplaced, QJsonArray::fromStringList(m_plan.replaced) },
         { kAdded, QJsonArray::fromStringList(m_plan.added) },
         { kFolders, QJsonArray::fromStringList(m_plan.madeFolders) } };
@@ -244,7 +264,6 @@ QString UpdateInstaller::swap()
     for (const QString &name : m_plan.names()) {
         const QString place = inFolder(name);
         QDir().mkpath(QFileInfo(place).path());
-        QDir().mkpath(QFileInfo(former(name)).path());
         const std::error_code failure =
             isThere(place) ? replace(place, fresh(name), former(name)) : rename(fresh(name), place);
         if (failure) {

@@ -47,6 +47,7 @@ private:
     [[nodiscard]] QString checkPlace(const QString &name) const;
     [[nodiscard]] QString adoptPermissions(const QString &name, bool isProgram) const;
     [[nodiscard]] QString swap();
+    void keepFormer() const;
     bool rollBack();
     bool readJournal();
     void clear();

@@ -14,11 +14,16 @@ namespace
 /// How many more times the names of files may change before the process dies, as if the power
 /// failed; never when negative.
 int s_changesLeft = -1;
+/// Second names of files that no power failure takes back only once their folder was synced.
+QList<QByteArray> s_unsynced;
 
 void countChange()
 {
-    if (s_changesLeft == 0)
+    if (s_changesLeft == 0) {
+        for (const QByteArray &name : std::as_const(s_unsynced))
+            ::syscall(SYS_unlinkat, AT_FDCWD, name.constData(), 0);
         ::_exit(1);
+    }
     --s_changesLeft;
 }
 
@@ -34,7 +39,18 @@ extern "C" int rename(const char *from, const char *to) noexcept
 extern "C" int link(const char *from, const char *to) noexcept
 {
     countChange();
+    s_unsynced.append(to);
     return static_cast<int>(::syscall(SYS_linkat, AT_FDCWD, from, AT_FDCWD, to, 0));
+}
+
+extern "C" int fsync(int file)
+{
+    const QByteArray folder =
+        QFile::encodeName(QFile::symLinkTarget("/proc/self/fd/" + QString::number(file)));
+    s_unsynced.removeIf([&](const QByteArray &name) {
+        return name.startsWith(folder + '/') && name.lastIndexOf('/') == folder.size();
+    });
+    return static_cast<int>(::syscall(SYS_fsync, file));
 }
 
 extern "C" int unlink(const char *path) noexcept
@@ -230,7 +246,7 @@ void TestUpdateInstaller::aProgramThatDiesInBetweenIsPutRight()
         QVERIFY(!isJournalled || !isNew);
         QVERIFY(!QFile::exists(path(".update")));
     }
-    QVERIFY2(halfway > 6, qPrintable(QString::number(halfway)));
+    QVERIFY2(halfway > 4, qPrintable(QString::number(halfway)));
 }
 
 void TestUpdateInstaller::onlyOneAtATime()
