@@ -120,22 +120,6 @@ void TestIniFile::aFullDiskLosesNothing()
     file.setValue("APP", "opengl", "software");
     QCOMPARE(value(file, "APP", "opengl"), "software");
     QCOMPARE(value(file, "UPDATE", "UpdateURL"), "https://b.example");
-
-    // Without a whole copy of it a damaged file is left alone.
-    const QByteArray damaged =
-        "[APP]\nopengl=x\nnonsense " + QByteArray(2 * SmallDisk::kPageBytes, 'n');
-    write(disk.filePath("config.ini"), damaged);
-    const QDir folder(disk.filePath(""));
-    for (int pages = 0; pages < 4; ++pages) {
-        disk.fill(pages);
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^The deployment file is damaged"));
-        file.setValue("APP", "opengl", "software");
-        const QStringList copies = folder.entryList({ "config.ini.broken-*" });
-        QCOMPARE(
-            read(copies.isEmpty() ? disk.filePath("config.ini") : folder.filePath(copies.first())),
-            damaged);
-        disk.empty();
-    }
 }
 
 QTEST_GUILESS_MAIN(TestIniFile)
