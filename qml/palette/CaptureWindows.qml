@@ -18,9 +18,13 @@ Item {
     /// How long the recording has run; empty while none does.
     readonly property string elapsed: panel?.elapsed ?? ""
     readonly property bool recording: panel?.recording ?? false
+    /// What the panel that closes has to tell.
+    property string endedPath: ""
+    property string endedFailure: ""
 
     signal recordingBegan()
-    /// `path` is empty when nothing was recorded, `failure` when nothing went wrong.
+    /// A recording is over, or did not come about, and the next can be begun. `path` is empty when
+    /// nothing was recorded, `failure` when nothing went wrong.
     signal recordingEnded(string path, string failure)
 
     /// On the next turn of the event loop: a loader must have let go of its former window first,
@@ -38,8 +42,10 @@ Item {
         if (!isRecordIcon) {
             recordIcon = idleIcon;
             // A panel that still finishes its file closes by itself.
-            if (!panel || !panel.stopRecord())
+            if (!panel || !panel.stopRecord()) {
                 recordLoader.source = "";
+                tellEnd();
+            }
             return;
         }
         openPanel(false);
@@ -47,6 +53,7 @@ Item {
 
     function openPanel(whole) {
         recordIcon = "qrc:/icons/stop.png";
+        endedPath = endedFailure = "";
         recordLoader.source = "";
         recordLoader.active = false;
         recordLoader.active = true;
@@ -56,10 +63,39 @@ Item {
 
     /// Records the region of a panel that is open, else the whole screen.
     function startRecording() {
-        if (panel)
+        if (panel && !panel.leaving && !panel.whole)
             panel.toggle();
         else
             openPanel(true);
+    }
+
+    /// Ends a recording of the whole screen that was asked for and has not begun.
+    function giveUpStarting() {
+        if (panel?.whole)
+            panel.leave();
+    }
+
+    function hasEnded(path, failure) {
+        endedPath = path;
+        endedFailure = failure;
+        if (!panel.leaving && !panel.whole)
+            tellEnd();
+    }
+
+    function tellEnd() {
+        const path = endedPath;
+        const failure = endedFailure;
+        endedPath = endedFailure = "";
+        recordingEnded(path, failure);
+    }
+
+    function removePanel(closed) {
+        if (recordLoader.item !== closed)
+            return; // another has taken its place, and its recording may be waited for
+        recordLoader.source = "";
+        recordLoader.active = false;
+        console.log("VideoShot资源已清理");
+        tellEnd();
     }
 
     Loader {
@@ -70,8 +106,10 @@ Item {
     Loader {
         id: recordLoader
         onStatusChanged: {
-            if (status === Loader.Error)
+            if (status === Loader.Error) {
                 root.recordIcon = root.idleIcon;
+                root.tellEnd();
+            }
         }
     }
 
@@ -79,7 +117,7 @@ Item {
         target: root.panel
         ignoreUnknownSignals: true
         function onBegan() { root.recordingBegan(); }
-        function onEnded(path, failure) { root.recordingEnded(path, failure); }
+        function onEnded(path, failure) { root.hasEnded(path, failure); }
         function onClose() {
             console.log("VideoShot窗口关闭，检查录制状态");
             root.recordIcon = root.idleIcon;
@@ -87,11 +125,8 @@ Item {
                 console.log("停止录制中...");
                 root.videoCapture.stopRecording();
             }
-            root.nextTurn(() => {
-                recordLoader.source = "";
-                recordLoader.active = false;
-                console.log("VideoShot资源已清理");
-            });
+            const closed = root.panel;
+            root.nextTurn(() => root.removePanel(closed));
         }
     }
 }
