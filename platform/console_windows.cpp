@@ -1,5 +1,7 @@
 #include "platform/console.h"
 
+#include <QProcess>
+
 #include <cstdio>
 #include <windows.h>
 
@@ -11,4 +13,12 @@ void attachConsole()
         std::freopen("CONOUT$", "w", stdout);
         std::freopen("CONOUT$", "w", stderr);
     }
+}
+
+void leaveConsole(QProcess &process)
+{
+    process.setCreateProcessArgumentsModifier([](QProcess::CreateProcessArguments *arguments) {
+        arguments->flags |= DETACHED_PROCESS | CREATE_NEW_PROCESS_GROUP;
+        arguments->flags &= ~static_cast<unsigned long>(CREATE_NO_WINDOW);
+    });
 }

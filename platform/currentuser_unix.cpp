@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <optional>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -33,6 +34,20 @@ bool belongsToAnotherUser(const QString &path)
 {
     const auto status = statusOf(path);
     return status && status->st_uid != ::geteuid();
+}
+
+bool serverBelongsToAnotherUser(qintptr socket)
+{
+#ifdef SO_PEERCRED
+    ucred server{};
+    socklen_t size = sizeof(server);
+    return ::getsockopt(static_cast<int>(socket), SOL_SOCKET, SO_PEERCRED, &server, &size) == 0
+        && server.uid != ::geteuid();
+#else
+    uid_t user = 0;
+    gid_t group = 0;
+    return ::getpeereid(static_cast<int>(socket), &user, &group) == 0 && user != ::geteuid();
+#endif
 }
 
 bool isPlaceForOwnFile(const QString &path)

@@ -50,6 +50,12 @@ bool belongsToAnotherUser(const QString & /*path*/)
     return false;
 }
 
+bool serverBelongsToAnotherUser(qintptr /*socket*/)
+{
+    // Pipes are made for their own user alone.
+    return false;
+}
+
 bool isPlaceForOwnFile(const QString &path)
 {
     const QFileInfo info(path);

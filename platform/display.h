@@ -11,5 +11,5 @@
 [[nodiscard]] QString ownDisplay(const QStringList &arguments);
 
 /// The same of the process that listens at the other end of a connected local socket; nothing where
-/// the system does not tell.
+/// the system does not tell, or where another program listens there.
 [[nodiscard]] std::optional<QString> displayOfServer(qintptr socket);

@@ -3,6 +3,7 @@
 #include "platform/displayname.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QList>
 
 #include <sys/socket.h>
@@ -29,6 +30,15 @@ QString valueIn(const QList<QByteArray> &environment, const QByteArray &name)
     return {};
 }
 
+/// The name of the file that a process runs, also after an update has replaced that file.
+QString programOf(const QString &process)
+{
+    const QString path =
+        QFile::symLinkTarget(QLatin1String("/proc/") + process + QLatin1String("/exe"));
+    const QLatin1String replaced(" (deleted)");
+    return QFileInfo(path.endsWith(replaced) ? path.chopped(replaced.size()) : path).fileName();
+}
+
 } // namespace
 
 QString ownDisplay(const QStringList &arguments)
@@ -42,6 +52,9 @@ std::optional<QString> displayOfServer(qintptr socket)
     socklen_t size = sizeof(server);
     if (::getsockopt(static_cast<int>(socket), SOL_SOCKET, SO_PEERCRED, &server, &size) != 0
         || server.pid <= 0) {
+        return std::nullopt;
+    }
+    if (programOf(QString::number(server.pid)) != programOf(QStringLiteral("self"))) {
         return std::nullopt;
     }
     // As the process was started: whether it still answers does not matter.
