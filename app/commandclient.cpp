@@ -1,7 +1,6 @@
 #include "app/commandclient.h"
 
 #include "app/commandwire.h"
-#include "app/remote.h"
 
 #include <QDeadlineTimer>
 #include <QFile>
@@ -13,8 +12,6 @@ namespace
 
 constexpr int kDone = 0;
 constexpr int kRefused = 1;
-/// Longer than the instance itself waits for a command.
-constexpr int kAnswerTimeoutMs = Remote::kTimeoutMs + 5000;
 
 QByteArray readLine(QLocalSocket &socket, const QDeadlineTimer &deadline)
 {
@@ -28,19 +25,19 @@ QByteArray readLine(QLocalSocket &socket, const QDeadlineTimer &deadline)
 
 } // namespace
 
-CommandReply CommandClient::ask(QLocalSocket &instance, const QList<Command> &commands)
+std::optional<CommandReply> CommandClient::ask(
+    QLocalSocket &instance, const QList<Command> &commands, int timeoutMs)
 {
-    const QDeadlineTimer deadline(kAnswerTimeoutMs);
+    const QDeadlineTimer deadline(timeoutMs);
     instance.write(CommandWire::request(commands));
     instance.flush();
-    if (const auto reply = CommandWire::readReply(readLine(instance, deadline))) {
-        return *reply;
-    }
-    return { false, {}, tr("正在运行的程序没有回应。请退出后重新启动它") };
+    return CommandWire::readReply(readLine(instance, deadline));
 }
 
-int CommandClient::report(const CommandReply &reply)
+int CommandClient::report(const std::optional<CommandReply> &answer)
 {
+    const CommandReply reply = answer.value_or(
+        CommandReply{ false, {}, tr("正在运行的程序没有回应。请退出后重新启动它") });
     for (const QString &output : reply.outputs) {
         std::puts(QFile::encodeName(output).constData());
     }

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "app/command.h"
+#include "app/remote.h"
 
 #include <QCoreApplication>
 #include <QLocalSocket>
+
+#include <optional>
 
 /// The side of the start that hands its commands over to the running instance.
 class CommandClient
@@ -11,10 +14,14 @@ class CommandClient
     Q_DECLARE_TR_FUNCTIONS(CommandClient)
 
 public:
-    /// Sends the commands and waits for what became of them, in seconds at worst; an instance that
-    /// does not answer counts as a refusal.
-    [[nodiscard]] static CommandReply ask(QLocalSocket &instance, const QList<Command> &commands);
+    /// Longer than a running instance itself waits for a command.
+    static constexpr int kAnswerTimeoutMs = Remote::kTimeoutMs + 5000;
+
+    /// Sends the commands and waits for what became of them; nothing when there is no answer.
+    [[nodiscard]] static std::optional<CommandReply> ask(
+        QLocalSocket &instance, const QList<Command> &commands, int timeoutMs = kAnswerTimeoutMs);
 
     /// Prints the paths on standard output, the message on standard error; returns the exit code.
-    [[nodiscard]] static int report(const CommandReply &reply);
+    /// No answer counts as a refusal.
+    [[nodiscard]] static int report(const std::optional<CommandReply> &answer);
 };

@@ -8,6 +8,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <iterator>
 
 namespace
 {
@@ -20,7 +21,7 @@ const QString kVersion = QStringLiteral("version");
 constexpr const char *kToolkitFlags[] = { "reverse", "widgetcount", "nograb", "dograb", "sync" };
 constexpr const char *kToolkitValues[] = { "platform", "platformpluginpath", "platformtheme",
     "plugin", "qwindowgeometry", "qwindowtitle", "qwindowicon", "session", "style", "stylesheet",
-    "qmljsdebugger", "display", "name", "geometry", "visual" };
+    "qmljsdebugger", "display", "name", "title", "icon", "geometry", "visual" };
 
 /// "--restart" without its dashes.
 QString nameIn(const char *switchText)
@@ -96,15 +97,18 @@ QStringList withEveryValue(QStringList arguments)
     return arguments;
 }
 
+/// With or without its value.
+bool isVerb(const QString &argument)
+{
+    return verbCalled(withoutDashes(argument.section(u'=', 0, 0))).has_value();
+}
+
 /// Of a line that the parser rejects without naming an unknown switch: the one whose value is
 /// missing or one too many.
 QString rejected(const QStringList &arguments)
 {
-    const auto valued =
-        std::find_if(arguments.begin() + 1, arguments.end(), [](const QString &argument) {
-            return argument.startsWith(u'-') && argument.contains(u'=')
-                && verbCalled(withoutDashes(argument.section(u'=', 0, 0)));
-        });
+    const auto valued = std::find_if(arguments.begin() + 1, arguments.end(),
+        [](const QString &argument) { return argument.contains(u'=') && isVerb(argument); });
     return valued == arguments.end() ? arguments.last() : *valued;
 }
 
@@ -114,11 +118,17 @@ CommandLine::CommandLine(const QStringList &arguments, const QString &folder)
 {
     QCommandLineParser parser;
     addOptions(parser);
-    const bool isUnderstood = parser.parse(withEveryValue(arguments));
+    const QStringList valued = withEveryValue(arguments);
+    const bool isUnderstood = parser.parse(valued);
+    std::ranges::copy_if(valued.begin() + 1, valued.end(), std::back_inserter(m_switches),
+        [](const QString &argument) { return !isVerb(argument); });
     m_withoutTray = parser.isSet(nameIn(ProcessServices::kWithoutTraySwitch));
-    m_isRestart = parser.isSet(nameIn(ProcessServices::kRestartSwitch));
+    m_isRestart = arguments.contains(QLatin1String(ProcessServices::kRestartSwitch));
     if (parser.isSet(kHelp) || parser.isSet(kVersion)) {
         m_purpose = parser.isSet(kHelp) ? Purpose::Help : Purpose::Version;
+    } else if (parser.isSet(nameIn(ProcessServices::kRestartSwitch)) && !m_isRestart) {
+        // To be written exactly; the parser is content with one dash.
+        blame(Fault::Unknown, QLatin1String(ProcessServices::kRestartSwitch + 1));
     } else if (isUnderstood) {
         readCommands(parser, folder);
     } else {

@@ -28,6 +28,8 @@ public:
 
     [[nodiscard]] Purpose purpose() const { return m_purpose; }
     [[nodiscard]] const QList<Command> &commands() const { return m_commands; }
+    /// What the program is to be started with to be given the commands then, without its path.
+    [[nodiscard]] const QStringList &switches() const { return m_switches; }
     /// Start also where there is no notification area.
     [[nodiscard]] bool withoutTray() const { return m_withoutTray; }
     /// The predecessor is closing: do not hand over to it.
@@ -46,6 +48,7 @@ private:
 
     Purpose m_purpose = Purpose::Start;
     QList<Command> m_commands;
+    QStringList m_switches;
     bool m_withoutTray = false;
     bool m_isRestart = false;
     Fault m_fault = Fault::Unknown;

@@ -6,6 +6,7 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QFile>
 
 namespace
 {
@@ -30,7 +31,8 @@ QString ownName(const QString &display)
 }
 
 /// Connected to whoever listens under the name, unless it is another user's: the superuser would be
-/// let in.
+/// let in. The file spares that user the visit; what counts is who answers, since the file may have
+/// been exchanged meanwhile.
 std::unique_ptr<QLocalSocket> connectTo(const QString &name)
 {
     if (InstanceName::belongsElsewhere(name)) {
@@ -38,7 +40,11 @@ std::unique_ptr<QLocalSocket> connectTo(const QString &name)
     }
     auto socket = std::make_unique<QLocalSocket>();
     socket->connectToServer(name);
-    return socket->waitForConnected(kConnectTimeoutMs) ? std::move(socket) : nullptr;
+    if (!socket->waitForConnected(kConnectTimeoutMs)
+        || serverBelongsToAnotherUser(socket->socketDescriptor())) {
+        return nullptr;
+    }
+    return socket;
 }
 
 /// Whoever connects and says nothing counts as another start.
@@ -74,8 +80,7 @@ std::unique_ptr<QLocalSocket> InstanceName::connectToInstance() const
 
 QString InstanceName::toTake() const
 {
-    if (const auto holder = connectTo(m_own)) {
-        excuse(*holder);
+    if (belongsElsewhere(shared())) {
         return m_own;
     }
     const auto holder = connectTo(shared());
@@ -84,6 +89,13 @@ QString InstanceName::toTake() const
     }
     excuse(*holder);
     return isOnOtherDisplay(*holder) ? m_own : shared();
+}
+
+QString InstanceName::toTakeOver(const QString &predecessor) const
+{
+    const bool isOwn = predecessor == m_own
+        || (predecessor != shared() && QFile::exists(pathOf(m_own))) || belongsElsewhere(shared());
+    return isOwn ? m_own : shared();
 }
 
 QString InstanceName::pathOf(const QString &name)

@@ -22,8 +22,12 @@ public:
     /// connection.
     [[nodiscard]] std::unique_ptr<QLocalSocket> connectToInstance() const;
 
-    /// The name for a start that takes over from whatever runs on this display.
+    /// The name for a start that has found no instance on this display.
     [[nodiscard]] QString toTake() const;
+
+    /// The name for a start that takes over from whatever runs on this display. `predecessor` is
+    /// the name of the one that has started it, if that has told. Connects to nobody.
+    [[nodiscard]] QString toTakeOver(const QString &predecessor) const;
 
     /// The file of a name's socket, where sockets are files.
     [[nodiscard]] static QString pathOf(const QString &name);

@@ -36,7 +36,6 @@
 namespace
 {
 
-constexpr int kExitNoTray = -1;
 constexpr int kExitNoWindow = -1;
 constexpr int kExitNameRefused = 1;
 
@@ -55,14 +54,15 @@ QStringList argumentList(int argc, char **argv)
     return arguments;
 }
 
-/// Commands of other starts, and those that this program was itself started with.
+/// Commands of other starts, and those that a restart was itself given: it has no instance to ask.
 void obeyCommands(SingleInstance &instance, const QList<Command> &own)
 {
     QObject::connect(&instance, &SingleInstance::asked, Remote::instance(), &Remote::submit);
     if (!own.isEmpty()) {
         QTimer::singleShot(0, Remote::instance(), [own] {
             Remote::instance()->submit(
-                own, [](const CommandReply &reply) { std::ignore = CommandClient::report(reply); });
+                own, [](const CommandReply &reply) { std::ignore = CommandClient::report(reply); },
+                Remote::instance());
         });
     }
 }
@@ -154,14 +154,9 @@ int main(int argc, char *argv[])
     QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
 
     SingleInstance instance(display);
-    int exitCode = 0;
-    const auto handOver = [&line, &exitCode](QLocalSocket &running) {
-        exitCode = CommandClient::report(CommandClient::ask(running, line.commands()));
-    };
-    switch (instance.claim(QCoreApplication::arguments(),
-        line.commands().isEmpty() ? SingleInstance::HandOver() : handOver)) {
+    switch (instance.claim(QCoreApplication::arguments())) {
     case SingleInstance::Claim::HandedOver:
-        return exitCode;
+        return 0;
     case SingleInstance::Claim::Refused:
         return kExitNameRefused;
     case SingleInstance::Claim::Granted:
@@ -169,7 +164,8 @@ int main(int argc, char *argv[])
     }
     // The program that runs here may be part of a half new one.
     const UpdateInstaller::Recovery recovery = UpdateInstaller::recover(ProgramFolder::path());
-    if (recovery == UpdateInstaller::Recovery::Done && ProcessServices::startAnew()) {
+    if (recovery == UpdateInstaller::Recovery::Done
+        && ProcessServices::startAnew(arguments.mid(1))) {
         return 0;
     }
     return runInterface(application, instance, line, recovery);

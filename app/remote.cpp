@@ -6,7 +6,7 @@ Remote::Remote(int timeoutMs, QObject *parent) : QObject(parent)
 {
     m_patience.setSingleShot(true);
     m_patience.setInterval(timeoutMs);
-    m_patience.callOnTimeout(this, [this] { finish(false, tr("命令没有在规定时间内完成")); });
+    m_patience.callOnTimeout(this, &Remote::expire);
 }
 
 Remote *Remote::instance()
@@ -21,18 +21,25 @@ Remote *Remote::create(QQmlEngine *, QJSEngine *)
     return instance();
 }
 
-void Remote::submit(const QList<Command> &commands, const Answer &answer)
+void Remote::submit(const QList<Command> &commands, const Answer &answer, const QObject *asker)
 {
     Request request;
     request.commands.append(commands);
     request.answer = answer;
+    request.asker = asker;
     m_requests.enqueue(request);
     startNext();
 }
 
 void Remote::startNext()
 {
-    if (m_busy || m_requests.isEmpty()) {
+    if (m_busy) {
+        return;
+    }
+    while (!m_requests.isEmpty() && !m_requests.head().asker) {
+        m_requests.dequeue();
+    }
+    if (m_requests.isEmpty()) {
         return;
     }
     m_busy = true;
@@ -74,6 +81,13 @@ void Remote::note(const QString &file)
     }
 }
 
+void Remote::expire()
+{
+    const int ticket = m_ticket;
+    finish(false, tr("命令没有在规定时间内完成"));
+    emit expired(ticket);
+}
+
 void Remote::finish(bool done, const QString &message)
 {
     m_patience.stop();
@@ -81,7 +95,9 @@ void Remote::finish(bool done, const QString &message)
     Request request = m_requests.dequeue();
     request.reply.done = done;
     request.reply.message = message;
-    request.answer(request.reply);
+    if (request.asker) {
+        request.answer(request.reply);
+    }
     m_busy = false;
     // On the next turn: what was asked for last, such as the end of the program, comes first.
     QMetaObject::invokeMethod(this, &Remote::startNext, Qt::QueuedConnection);

@@ -3,6 +3,7 @@
 #include "app/command.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QQueue>
 #include <QTimer>
 #include <QtQml/qqmlregistration.h>
@@ -35,8 +36,10 @@ public:
     [[nodiscard]] static Remote *create(QQmlEngine *, QJSEngine *);
 
     /// Carries the commands out in order, after those that are waiting. The first that is refused
-    /// ends the request; then, or when all are done, `answer` is called.
-    void submit(const QList<Command> &commands, const Answer &answer);
+    /// ends the request; then, or when all are done, `answer` is called. A request whose `asker` is
+    /// deleted before its turn is dropped: whoever has been told that nothing came of it must not
+    /// see it happen later.
+    void submit(const QList<Command> &commands, const Answer &answer, const QObject *asker);
 
     /// The command was carried out and made `file`, if any.
     Q_INVOKABLE void succeed(int ticket, const QString &file = {});
@@ -47,11 +50,14 @@ signals:
     /// To be answered with `succeed` or `refuse`. `file` is absolute, and empty where none is
     /// named.
     void requested(int ticket, Verbs::Verb verb, const QString &file);
+    /// The command has taken too long and counts as refused: what it began is to be given up.
+    void expired(int ticket);
 
 private:
     struct Request {
         QQueue<Command> commands;
         Answer answer;
+        QPointer<const QObject> asker;
         CommandReply reply;
     };
 
@@ -59,6 +65,7 @@ private:
     void note(const QString &file);
     void startNext();
     void requestNextCommand();
+    void expire();
     void finish(bool done, const QString &message);
 
     QQueue<Request> m_requests;

@@ -5,7 +5,6 @@
 
 #include <QFile>
 #include <QLocalSocket>
-#include <QPointer>
 #include <QTextStream>
 
 #include <algorithm>
@@ -62,23 +61,23 @@ void SingleInstance::closeBesidesSuccessor()
     }
 }
 
-SingleInstance::Claim SingleInstance::claim(const QStringList &arguments, const HandOver &handOver)
+SingleInstance::Claim SingleInstance::claim(const QStringList &arguments)
 {
+    const QString predecessor = ProcessServices::takePredecessorName();
     std::unique_ptr<QLocalSocket> running;
     {
         const InstanceLock lock;
-        if (!arguments.contains(QLatin1String(ProcessServices::kRestartSwitch))) {
+        const bool takesOver = arguments.contains(QLatin1String(ProcessServices::kRestartSwitch));
+        if (!takesOver) {
             running = m_name.connectToInstance();
         }
         if (!running) {
-            return listen(m_name.toTake()) ? Claim::Granted : Claim::Refused;
+            return listen(takesOver ? m_name.toTakeOver(predecessor) : m_name.toTake())
+                ? Claim::Granted
+                : Claim::Refused;
         }
     }
-    if (handOver) {
-        handOver(*running);
-    } else {
-        sendArguments(*running, arguments);
-    }
+    sendArguments(*running, arguments);
     return Claim::HandedOver;
 }
 
@@ -91,6 +90,7 @@ bool SingleInstance::listen(const QString &name)
     connect(m_server.get(), &QLocalServer::newConnection, this, &SingleInstance::receiveVisitors);
     if (m_server->listen(name)) {
         m_socketIdentity = fileIdentity(m_server->fullServerName());
+        ProcessServices::setInstanceName(name);
         return true;
     }
     return name != m_name.own() && nameBelongsToAnotherUser(*m_server, name)
@@ -119,14 +119,10 @@ void SingleInstance::receive(QLocalSocket *connection)
 {
     auto *visitor = new Visitor(connection, this); // deletes itself
     connect(visitor, &Visitor::startedAgain, this, &SingleInstance::startedAgain);
-    connect(visitor, &Visitor::asked, this,
-        [this, guest = QPointer(visitor)](const QList<Command> &commands) {
-            emit asked(commands, [guest](const CommandReply &reply) {
-                if (guest) {
-                    guest->answer(reply);
-                }
-            });
-        });
+    connect(visitor, &Visitor::asked, this, [this, visitor](const QList<Command> &commands) {
+        emit asked(
+            commands, [visitor](const CommandReply &reply) { visitor->answer(reply); }, visitor);
+    });
 }
 
 /// The one that has been silent for the longest time gives way to a new one.

@@ -14,8 +14,8 @@
 #include <optional>
 
 /// Keeps a single running instance per user and display, by a local socket that is open while the
-/// program runs. A later start hands over its commands, or its mere arguments, on which nobody
-/// acts, and gives way.
+/// program runs. A later start without commands hands over its arguments, on which nobody acts, and
+/// gives way.
 class SingleInstance : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,6 @@ public:
         HandedOver, ///< another one runs and has been told
         Refused, ///< the name cannot be had
     };
-    using HandOver = std::function<void(QLocalSocket &)>;
     using Answer = std::function<void(const CommandReply &)>;
 
     /// `display` is where this process shows its windows.
@@ -34,15 +33,16 @@ public:
     /// Gives the name up, unless a restarted instance has taken it over meanwhile.
     ~SingleInstance() override;
 
-    /// `arguments` as the program got them, its path included; `handOver` tells a running instance
-    /// something else than them. Blocks for the time-outs of the hand-over.
-    [[nodiscard]] Claim claim(const QStringList &arguments, const HandOver &handOver = {});
+    /// `arguments` as the program got them, its path included; a running instance is told them.
+    /// Blocks for the time-outs of that.
+    [[nodiscard]] Claim claim(const QStringList &arguments);
 
 signals:
     /// The user started the program once more.
     void startedAgain();
-    /// Another start wants these carried out, and `answer` called once, whenever that is.
-    void asked(const QList<Command> &commands, const Answer &answer);
+    /// Another start wants these carried out, and `answer` called once, whenever that is, but only
+    /// as long as `asker` exists.
+    void asked(const QList<Command> &commands, const Answer &answer, const QObject *asker);
 
 private:
     [[nodiscard]] bool listen(const QString &name);

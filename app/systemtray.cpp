@@ -23,6 +23,18 @@ constexpr int kPollIntervalMs = 50;
 
 } // namespace
 
+bool meansNoSystemTray(int exitCode)
+{
+    constexpr int kByte = 0xff;
+    return (exitCode & kByte) == (kExitNoTray & kByte);
+}
+
+QString noSystemTrayText()
+{
+    return QCoreApplication::translate(
+        "main", "桌面没有系统托盘，程序无法运行。请启用面板的通知区域，或用 --without-tray 启动。");
+}
+
 bool waitForSystemTray()
 {
     const QDeadlineTimer deadline(kPanelStartTimeoutMs);
@@ -36,8 +48,7 @@ void reportNoSystemTray(QApplication &application)
 {
     qDebug() << StartupLogTexts::kNoSystemTray;
     loadTranslation(&application, Startup::chooseLanguage());
-    const QString reason = QCoreApplication::translate(
-        "main", "桌面没有系统托盘，程序无法运行。请启用面板的通知区域，或用 --without-tray 启动。");
+    const QString reason = noSystemTrayText();
     showDesktopNotice(QLatin1String(Identity::kDisplayName), reason);
     // The desktop may show no notices either; whoever started it from a terminal reads this.
     std::fputs((reason + u'\n').toLocal8Bit().constData(), stderr);

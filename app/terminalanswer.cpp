@@ -2,6 +2,7 @@
 
 #include "app/commandclient.h"
 #include "app/commandline.h"
+#include "app/commandstart.h"
 #include "app/identity.h"
 #include "app/instancename.h"
 #include "app/shell.h"
@@ -95,9 +96,9 @@ std::optional<int> answerOnTerminal(
         return 0;
     }
     if (display.isEmpty()) {
-        return CommandClient::report({ false, {},
+        return CommandClient::report(CommandReply{ false, {},
             QCoreApplication::translate(
                 "CommandClient", "程序没有运行，这里也没有可以显示它的桌面。请先在桌面上启动它") });
     }
-    return std::nullopt;
+    return CommandStart::run(line.switches(), display, line.commands());
 }

@@ -7,11 +7,14 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
+#include <QProcessEnvironment>
 
 namespace
 {
 
 constexpr int kAttachedStartTimeoutMs = 1000;
+/// Of the process that is started to take over, and of no other.
+constexpr char kPredecessorVariable[] = "DRAVELIN_PREDECESSOR";
 
 /// The detached start reports no reason; an attached one does. The child that it may start ends
 /// with the process object.
@@ -26,24 +29,70 @@ void reportWhyNotStarted(const QString &program, const QStringList &arguments)
                << process.error() << LogTexts::kErrorString << process.errorString();
 }
 
+QString &instanceName()
+{
+    static QString name;
+    return name;
+}
+
+QStringList successorArguments(QStringList arguments)
+{
+    const QLatin1String restart(ProcessServices::kRestartSwitch);
+    arguments.removeAll(restart);
+    arguments.prepend(restart);
+    return arguments;
+}
+
+/// Commands have been carried out by now. The command line takes one dash for two.
+QStringList switchesToKeep()
+{
+    const char *const withoutTray = ProcessServices::kWithoutTraySwitch;
+    const QStringList given = QCoreApplication::arguments();
+    return given.contains(QLatin1String(withoutTray))
+            || given.contains(QLatin1String(withoutTray + 1))
+        ? QStringList{ QLatin1String(withoutTray) }
+        : QStringList();
+}
+
+bool startSuccessor(const QStringList &arguments)
+{
+    QProcess process;
+    process.setProgram(QCoreApplication::applicationFilePath());
+    process.setArguments(arguments);
+    if (!instanceName().isEmpty()) {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QLatin1String(kPredecessorVariable), instanceName());
+        process.setProcessEnvironment(environment);
+    }
+    return process.startDetached();
+}
+
 } // namespace
 
-bool ProcessServices::startAnew()
+void ProcessServices::setInstanceName(const QString &name)
 {
-    return QProcess::startDetached(
-        QCoreApplication::applicationFilePath(), { QLatin1String(kRestartSwitch) });
+    instanceName() = name;
+}
+
+QString ProcessServices::takePredecessorName()
+{
+    const QString name = qEnvironmentVariable(kPredecessorVariable);
+    qunsetenv(kPredecessorVariable);
+    return name;
+}
+
+bool ProcessServices::startAnew(const QStringList &arguments)
+{
+    return startSuccessor(successorArguments(arguments));
 }
 
 void ProcessServices::restartApplication()
 {
     qDebug() << LogTexts::kRestarting;
     const QString program = QCoreApplication::applicationFilePath();
-    QStringList arguments{ QLatin1String(kRestartSwitch) };
-    if (QCoreApplication::arguments().contains(QLatin1String(kWithoutTraySwitch))) {
-        arguments << QLatin1String(kWithoutTraySwitch);
-    }
+    const QStringList arguments = successorArguments(switchesToKeep());
     qDebug() << LogTexts::kStartingInstance << program;
-    if (QProcess::startDetached(program, arguments)) {
+    if (startSuccessor(arguments)) {
         qDebug() << LogTexts::kInstanceStarted;
         QCoreApplication::quit();
         return;

@@ -180,6 +180,13 @@
     </message>
 </context>
 <context>
+    <name>CommandStart</name>
+    <message>
+        <source>程序无法启动（%1）。不带命令启动它可以看到原因</source>
+        <translation>程序无法启动（%1）。不带命令启动它可以看到原因</translation>
+    </message>
+</context>
+<context>
     <name>DragHandle</name>
     <message>
         <source>移动工具栏</source>

@@ -119,6 +119,16 @@ Item {
         captures.toggleRecording();
     }
 
+    /// A command that counts as refused must not come true later.
+    function giveUp(ticket) {
+        if (ticket === startingToRecord) {
+            startingToRecord = 0;
+            captures.giveUpStarting();
+        }
+        if (ticket === endingRecording)
+            endingRecording = 0;
+    }
+
     function perform(ticket, verb, file) {
         switch (verb) {
         case Verbs.Draw: return answer(ticket, draw());
@@ -162,23 +172,29 @@ Item {
     Connections {
         target: Remote
         function onRequested(ticket, verb, file) { root.perform(ticket, verb, file); }
+        function onExpired(ticket) { root.giveUp(ticket); }
     }
 
     Connections {
         target: root.captures
 
+        // An answer starts the next command, which may wait for the same: the tickets are put away
+        // before it.
         function onRecordingBegan() {
-            if (root.startingToRecord !== 0)
-                root.answer(root.startingToRecord, "");
+            const started = root.startingToRecord;
             root.startingToRecord = 0;
+            if (started !== 0)
+                root.answer(started, "");
         }
         function onRecordingEnded(path, failure) {
-            if (root.startingToRecord !== 0)
-                root.answer(root.startingToRecord, failure !== "" ? failure : qsTr("录制没有开始"));
-            if (root.endingRecording !== 0)
-                root.answer(root.endingRecording,
-                            path !== "" || failure !== "" ? failure : qsTr("没有录制到内容"), path);
+            const started = root.startingToRecord;
+            const ended = root.endingRecording;
             root.startingToRecord = root.endingRecording = 0;
+            if (started !== 0)
+                root.answer(started, failure !== "" ? failure : qsTr("录制没有开始"));
+            if (ended !== 0)
+                root.answer(ended,
+                            path !== "" || failure !== "" ? failure : qsTr("没有录制到内容"), path);
         }
     }
 }

@@ -65,7 +65,8 @@ void TestCommands::theCommandLineSaysWhatToDo_data()
     row("plain words", { u"a"_s, u"b"_s }, Purpose::Start);
     row("the toolkit's switches",
         { u"-platform"_s, u"offscreen"_s, u"--style=Fusion"_s, u"-qmljsdebugger=port:1"_s,
-            u"-reverse"_s, u"-session"_s, u"1_2"_s },
+            u"-reverse"_s, u"-session"_s, u"1_2"_s, u"-title"_s, u"--draw me"_s, u"-icon"_s,
+            u"a.png"_s },
         Purpose::Start);
     row("restart amid words", { u"a"_s, u"--restart"_s }, Purpose::Start);
     row("help wins", { u"--draw"_s, u"--help"_s, u"--nonsense"_s }, Purpose::Help);
@@ -98,6 +99,11 @@ void TestCommands::switchesStandBesideCommands()
     QVERIFY(line.withoutTray() && line.isRestart());
     QCOMPARE(line.purpose(), Purpose::Commands);
     QVERIFY(!lineOf({ u"--draw"_s }).withoutTray() && !lineOf({}).isRestart());
+    // What is left for the program itself, when it has to be started for the commands.
+    QCOMPARE(lineOf({ u"--without-tray"_s, u"--export"_s, u"a"_s, u"-style"_s, u"Fusion"_s,
+                        u"-capture"_s, u"b"_s, u"--capture"_s, u"--export=c"_s })
+                 .switches(),
+        (QStringList{ u"--without-tray"_s, u"-style"_s, u"Fusion"_s }));
 }
 
 void TestCommands::aWrongLineIsBlamedOnOneWord_data()
@@ -107,6 +113,7 @@ void TestCommands::aWrongLineIsBlamedOnOneWord_data()
 
     QTest::newRow("unknown") << QStringList{ u"--frob"_s } << u"--frob"_s;
     QTest::newRow("the case counts") << QStringList{ u"--Draw"_s } << u"--Draw"_s;
+    QTest::newRow("a restart with one dash") << QStringList{ u"-restart"_s } << u"-restart"_s;
     QTest::newRow("of several lines") << QStringList{ u"--a\nb"_s } << u"--a b"_s;
     QTest::newRow("no file") << QStringList{ u"--draw"_s, u"--export"_s } << u"--export"_s;
     QTest::newRow("an empty file") << QStringList{ u"--export"_s, QString() } << u"--export"_s;
@@ -192,7 +199,7 @@ void TestCommands::commandsAreCarriedOutInOrderUpToTheFirstRefusal()
         });
     Outcome outcome;
     remote.submit({ { Verbs::Export, u"/a.png"_s }, { Verbs::Undo, {} }, { Verbs::Clear, {} } },
-        into(outcome));
+        into(outcome), this);
     QCOMPARE(outcome.answers, 1);
     QCOMPARE(outcome.reply, (CommandReply{ false, { u"/a.png"_s }, u"nothing to undo"_s }));
     QCOMPARE(asked, (QList<Verbs::Verb>{ Verbs::Export, Verbs::Undo }));
@@ -203,25 +210,35 @@ void TestCommands::requestsWaitForEachOther()
     Remote remote(Remote::kTimeoutMs);
     QSignalSpy requested(&remote, &Remote::requested);
     Outcome first;
+    Outcome dropped;
     Outcome second;
-    remote.submit({ { Verbs::RecordStop, {} } }, into(first));
-    remote.submit({ { Verbs::Draw, {} } }, into(second));
+    auto impatient = std::make_unique<QObject>();
+    remote.submit({ { Verbs::RecordStop, {} } }, into(first), this);
+    remote.submit({ { Verbs::Clear, {} } }, into(dropped), impatient.get());
+    remote.submit({ { Verbs::Draw, {} } }, into(second), this);
+    impatient.reset();
     QCOMPARE(requested.size(), 1);
     remote.succeed(requested[0][0].toInt(), u"/v.mp4"_s);
     QCOMPARE(first.reply, (CommandReply{ true, { u"/v.mp4"_s }, {} }));
     QTRY_COMPARE(requested.size(), 2);
+    QCOMPARE(requested[1][1].value<Verbs::Verb>(), Verbs::Draw); // not what nobody waits for
     remote.refuse(requested[0][0].toInt(), u"late"_s);
     QCOMPARE(second.answers, 0);
     remote.succeed(requested[1][0].toInt());
     QVERIFY(second.reply.done);
+    QCOMPARE(dropped.answers, 0);
 }
 
 void TestCommands::anInterfaceThatDoesNotAnswerIsNotWaitedForEver()
 {
     Remote remote(1);
+    QSignalSpy requested(&remote, &Remote::requested);
+    QSignalSpy expired(&remote, &Remote::expired);
     Outcome outcome;
-    remote.submit({ { Verbs::RecordStart, {} }, { Verbs::Draw, {} } }, into(outcome));
+    remote.submit({ { Verbs::RecordStart, {} }, { Verbs::Draw, {} } }, into(outcome), this);
     QTRY_COMPARE(outcome.answers, 1);
+    QCOMPARE(expired.size(), 1);
+    QCOMPARE(expired[0][0], requested[0][0]);
     QVERIFY(!outcome.reply.done && !outcome.reply.message.isEmpty());
 }
 

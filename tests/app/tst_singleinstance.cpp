@@ -47,9 +47,9 @@ class CommandStart
 public:
     explicit CommandStart(const QList<Command> &commands)
         : m_thread(QThread::create([this, commands] {
-              SingleInstance start;
-              m_claim = start.claim(commandLine({ "--undo" }),
-                  [&](QLocalSocket &running) { m_reply = CommandClient::ask(running, commands); });
+              if (const auto running = InstanceName(ownDisplay({})).connectToInstance()) {
+                  m_reply = CommandClient::ask(*running, commands);
+              }
           }))
     {
         m_thread->start();
@@ -61,7 +61,6 @@ public:
     std::optional<CommandReply> reply() const { return m_reply; }
 
 private:
-    SingleInstance::Claim m_claim{};
     std::optional<CommandReply> m_reply;
     std::unique_ptr<QThread> m_thread;
 };
@@ -99,6 +98,8 @@ private slots:
     void aSecondStartSendsItsArguments();
     void theRunningInstanceHearsOfEveryFurtherStart();
     void aRestartTakesTheNameOverForGood();
+    void aRestartVisitsNobody();
+    void anotherUsersNameIsLeftAlone();
     void aSocketLeftByAKilledProcessIsNoInstance();
     void aNameThatCannotBeHadIsRefused();
     void everyDisplayHasItsInstance();
@@ -176,6 +177,41 @@ void TestSingleInstance::aRestartTakesTheNameOverForGood()
     QSignalSpy started(&restarted, &SingleInstance::startedAgain);
     QVERIFY(somebodyAnswers());
     QTRY_COMPARE(started.size(), 1);
+}
+
+void TestSingleInstance::aRestartVisitsNobody()
+{
+    const QString own = InstanceName(ownDisplay({})).own();
+    for (const QString &predecessor : { QString(), own }) {
+        QLocalServer running;
+        QVERIFY(running.listen(kName));
+        qputenv("DRAVELIN_PREDECESSOR", predecessor.toLocal8Bit());
+        SingleInstance restarted;
+        QCOMPARE(restarted.claim(commandLine({ "--restart" })), SingleInstance::Claim::Granted);
+        QVERIFY(!running.waitForNewConnection(0));
+        QCOMPARE(QFile::exists(InstanceName::pathOf(own)), !predecessor.isEmpty());
+        QVERIFY(qEnvironmentVariableIsEmpty("DRAVELIN_PREDECESSOR"));
+    }
+}
+
+void TestSingleInstance::anotherUsersNameIsLeftAlone()
+{
+    if (geteuid() != 0) {
+        QSKIP("only the superuser could take it");
+    }
+    constexpr uid_t kNobody = 65534;
+    QLocalServer others;
+    QVERIFY(others.listen(kName));
+    QCOMPARE(chown(QFile::encodeName(socketPath()).constData(), kNobody, kNobody), 0);
+    const auto identity = fileIdentity(socketPath());
+    {
+        SingleInstance first;
+        QCOMPARE(first.claim(commandLine({})), SingleInstance::Claim::Granted);
+        SingleInstance restarted;
+        QCOMPARE(restarted.claim(commandLine({ "--restart" })), SingleInstance::Claim::Granted);
+    }
+    QCOMPARE(fileIdentity(socketPath()), identity);
+    QVERIFY(!others.waitForNewConnection(0));
 }
 
 void TestSingleInstance::aSocketLeftByAKilledProcessIsNoInstance()

@@ -125,14 +125,27 @@ class CommandsTest(CommandTestCase):
 
     def test_a_start_with_commands_carries_them_out_itself(self):
         self.program.stop()
-        program = self.start("--toggle", "--undo", "--draw")
-        palette = desktop.Palette(self.desktop, program)
-        self.wait_for(lambda: palette.overlay and palette.overlay.takes_pointer,
-                      "the overlay to take the pointer")
-        program.wait_for_log("没有可以撤销的操作")
-        self.assertTrue(program.running)
+        # It ends when they are done, with all that it printed; the palette stays.
+        out, err = self.tell("--draw", "--export", "a.png", "--settings", expect=1)
+        self.assertEqual((out, err.count("\n")), ("", 1))
+        self.assertIn("没有内容", err)
+        self.assertFalse(self.desktop.windows.all(title="设置"))
+        overlay = self.desktop.wait_for_window("the overlay", title="绘制窗口")
+        self.assertTrue(overlay.takes_pointer)
         self.tell("--toggle")
-        self.wait_for(lambda: not palette.overlay.takes_pointer, "the pointer to be let through")
+        self.wait_for(lambda: not overlay.takes_pointer, "the pointer to be let through")
+        self.tell("--quit")
+        self.wait_for(lambda: not self.desktop.windows.all(title="主窗口"), "the palette to go")
+        out, _ = self.tell("--capture", "shot.png")
+        self.assertTrue(os.path.exists(out.strip()))
+        self.tell("--quit")
+
+    def test_starts_with_commands_at_once_share_one_palette(self):
+        self.program.stop()
+        starts = [self.start("--draw") for _ in range(3)]
+        self.assertEqual([start.wait_for_end() for start in starts], [0, 0, 0])
+        self.assertEqual(len(self.desktop.windows.all(title="主窗口")), 1)
+        self.tell("--quit")
 
     def test_every_tool_is_picked_up(self):
         for shape in ("circle", "rectangle", "arrow", "line"):
@@ -197,6 +210,19 @@ class RecordingTest(CommandTestCase):
         self.tell("--record-stop", expect=1)
         palette.click("record")  # the panel opens for a hand as ever
         self.program.window(title="录屏")
+
+    def test_one_recording_follows_another_at_once(self):
+        store_settings(self.desktop.home, screenSavePath=self.desktop.home + "/videos")
+        self.program.stop()
+        self.program = self.start(env={"PULSE_SERVER": "unix:/nowhere"})
+        self.assertTrue(desktop.Palette(self.desktop, self.program).window)
+        self.tell("--record-start")
+        paths = [self.tell("--record-stop", "--record-start")[0].strip() for _ in range(2)]
+        paths.append(self.tell("--record-stop")[0].strip())
+        self.assertEqual(len(set(paths)), 3)
+        for path in paths:
+            self.assertEqual(video.facts(path).size, self.desktop.size)
+        self.wait_for(lambda: not self.program.windows(title="录屏"), "the panel to close")
 
     def test_a_recording_that_cannot_begin_says_why(self):
         store_settings(self.desktop.home, screenSavePath="/proc/nowhere")
@@ -275,7 +301,10 @@ class WithoutTrayTest(desktop.DesktopTestCase):
         self.assertTrue(window.visible)
         palette.choose("menu", "quit")
         self.assertEqual(program.wait_for_end(), 0)
-        self.assertEqual(self.start("--draw").wait_for_end(), 255)
+        self.assertIn("系统托盘", tell(self, self.desktop, "--draw", expect=255)[1])
+        tell(self, self.desktop, "--without-tray", "--draw")
+        self.assertTrue(self.desktop.windows.find(title="绘制窗口"))
+        tell(self, self.desktop, "--quit")
 
 
 if __name__ == "__main__":

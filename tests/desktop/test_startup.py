@@ -2,12 +2,26 @@
 
 import configparser
 import os
-import socket
+import subprocess
+import sys
 
 import desktop
 
 EXIT_WITHOUT_TRAY = 255
 SOCKET_NAME = "morvale.sketchorb"
+# Prints what the first visitor sends.
+LISTENER = """
+import socket, sys
+with socket.socket(socket.AF_UNIX) as server:
+    server.bind(sys.argv[1])
+    server.listen()
+    server.settimeout(30)
+    print("listening", flush=True)
+    connection, _ = server.accept()
+    connection.settimeout(30)
+    while part := connection.recv(64):
+        sys.stdout.buffer.write(part)
+"""
 
 
 class StartupTest(desktop.DesktopTestCase):
@@ -64,17 +78,14 @@ class StartupTest(desktop.DesktopTestCase):
         self.assertTrue(first.running)
 
     def test_a_second_start_sends_its_arguments(self):
-        with socket.socket(socket.AF_UNIX) as server:
-            server.bind(os.path.join(self.desktop.env()["TMPDIR"], SOCKET_NAME))
-            server.listen()
-            server.settimeout(30)
+        # Whoever listens under the name is told, wherever its windows may be.
+        path = os.path.join(self.desktop.env()["TMPDIR"], SOCKET_NAME)
+        with subprocess.Popen([sys.executable, "-c", LISTENER, path], stdout=subprocess.PIPE,
+                              env={**os.environ, "DISPLAY": "elsewhere:7"}) as listener:
+            self.addCleanup(listener.kill)
+            self.assertEqual(listener.stdout.readline(), b"listening\n")
             program = self.start("a", "b")
-            connection, _ = server.accept()
-            connection.settimeout(30)
-            received = b""
-            while part := connection.recv(64):
-                received += part
-            self.assertEqual(received, b"a|b")
+            self.assertEqual(listener.communicate(timeout=30)[0], b"a|b")
             self.assertEqual(program.wait_for_end(), 0)
 
     def test_a_restart_takes_over_from_the_running_one(self):
