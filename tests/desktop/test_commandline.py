@@ -5,6 +5,7 @@ import json
 import os
 import socket
 import subprocess
+import time
 
 import desktop
 from desktop import video
@@ -217,9 +218,13 @@ class RecordingTest(CommandTestCase):
         self.program = self.start(env={"PULSE_SERVER": "unix:/nowhere"})
         self.assertTrue(desktop.Palette(self.desktop, self.program).window)
         self.tell("--record-start")
-        paths = [self.tell("--record-stop", "--record-start")[0].strip() for _ in range(2)]
-        paths.append(self.tell("--record-stop")[0].strip())
-        self.assertEqual(len(set(paths)), 3)
+        paths = []
+        for words in (["--record-stop", "--record-start"], ["--record-stop"]):
+            began = time.monotonic()
+            # A recording has to last.
+            self.wait_for(lambda began=began: time.monotonic() - began > 1, "a while")
+            paths.append(self.tell(*words)[0].strip())
+        self.assertNotEqual(*paths)
         for path in paths:
             self.assertEqual(video.facts(path).size, self.desktop.size)
         self.wait_for(lambda: not self.program.windows(title="录屏"), "the panel to close")
