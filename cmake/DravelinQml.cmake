@@ -63,7 +63,7 @@ function(dravelin_add_qml_documents target)
     set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
     # What is generated from a document is small beside the headers that it includes, and stands in
     # a namespace of its own.
-    dravelin_compile_in_batches(${target} ${sources})
+    dravelin_compile_in_batches(${target} ${sources} "${loader}")
     target_link_libraries(${target} PUBLIC Qt6::Qml)
 
     add_custom_target(${target}_qmllint
@@ -123,6 +123,9 @@ function(dravelin_add_qml_module target)
     file(GENERATE OUTPUT "${foreign_types}"
         CONTENT "--foreign-types=$<JOIN:$<REMOVE_DUPLICATES:${metatypes}>,$<COMMA>>\n")
     target_include_directories(${target} PRIVATE ${include_dirs})
-    target_link_libraries(${target} PUBLIC ${ARG_CLASSES} Qt6::Qml)
+    target_link_libraries(${target} PUBLIC ${ARG_CLASSES} Qt6::Qml PRIVATE dravelin_options)
+    # What Qt generates does not follow this project's warnings.
+    target_compile_options(${target} PRIVATE -w)
+    dravelin_use_common_headers(${target})
     add_custom_target(${target}_typeinfo DEPENDS "${module_dir}/${ARG_TYPEINFO}")
 endfunction()

@@ -19,8 +19,9 @@ if(CMAKE_COMPILE_WARNING_AS_ERROR AND CMAKE_VERSION VERSION_LESS 3.24)
 endif()
 
 # The headers that most sources include are parsed once and not a hundred times. Libraries and
-# programs differ in how their code may be placed, so each have their own. What a source must
-# include by itself is held by the checks that compile without them (static analysis, Windows).
+# programs differ in how their code may be placed, so each would need their own; only the tests are
+# programs enough for that. What a source must include by itself is held by the checks that compile
+# without them (static analysis, Windows).
 set(DRAVELIN_COMMON_HEADERS
     <algorithm> <array> <cmath> <functional> <memory> <optional> <vector>
     <QCoreApplication> <QDateTime> <QDebug> <QDir> <QFile> <QGuiApplication> <QImage> <QPainter>
@@ -42,9 +43,9 @@ endfunction()
 # dravelin_use_common_headers(target): for targets that link Qt and dravelin_options.
 function(dravelin_use_common_headers target)
     get_target_property(type ${target} TYPE)
-    if(type STREQUAL "EXECUTABLE")
+    if(TARGET dravelin_program_headers AND type STREQUAL "EXECUTABLE")
         target_precompile_headers(${target} REUSE_FROM dravelin_program_headers)
-    else()
+    elseif(NOT type STREQUAL "EXECUTABLE")
         target_precompile_headers(${target} REUSE_FROM dravelin_library_headers)
     endif()
 endfunction()
@@ -53,8 +54,10 @@ set(headers_source "${CMAKE_BINARY_DIR}/headers.cpp")
 file(CONFIGURE OUTPUT "${headers_source}" CONTENT "int main() { }\n")
 add_library(dravelin_library_headers STATIC "${headers_source}")
 _dravelin_precompile(dravelin_library_headers)
-add_executable(dravelin_program_headers "${headers_source}")
-_dravelin_precompile(dravelin_program_headers)
+if(DRAVELIN_BUILD_TESTS)
+    add_executable(dravelin_program_headers "${headers_source}")
+    _dravelin_precompile(dravelin_program_headers)
+endif()
 
 # dravelin_add_library(name SOURCES... LINK libs...): a static library with the shared options.
 function(dravelin_add_library name)
