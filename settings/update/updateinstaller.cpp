@@ -309,7 +309,8 @@ bool UpdateInstaller::readJournal()
     const QJsonObject plan = QJsonDocument::fromJson(file.readAll()).object();
     const auto list = [&plan](const QString &key) {
         QStringList names;
-        for (const QJsonValue &name : plan.value(key).toArray()) {
+        const QJsonArray listed = plan.value(key).toArray();
+        for (const auto &name : listed) {
             names.append(name.toString());
         }
         return names;

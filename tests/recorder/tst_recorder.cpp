@@ -290,9 +290,9 @@ void TestRecorder::keepsWhatAFullDiskHolds()
     // A disk of its own that a few seconds fill; it goes with the recorder, but what was on it is
     // copied aside first.
     const QString kept = m_folder->path() + ".mp4";
-    const QStringList smallDisk{ "unshare", "--map-root-user", "--mount", "sh", "-c",
-        "mount -t tmpfs -o size=200k none \"$0\" && { \"$@\"; ended=$?; "
-        "cp -f \"$0\"/*.mp4 \"$0.mp4\" 2>&-; exit $ended; }",
+    constexpr char kOnSmallDisk[] =
+        R"(mount -t tmpfs -o size=200k none "$0" && { "$@"; ended=$?; cp -f "$0"/*.mp4 "$0.mp4" 2>&-; exit $ended; })";
+    const QStringList smallDisk{ "unshare", "--map-root-user", "--mount", "sh", "-c", kOnSmallDisk,
         m_folder->path() };
     if (QProcess::execute(smallDisk.first(), smallDisk.mid(1) << "true") != 0)
         QSKIP("this machine lets nobody mount a disk");
