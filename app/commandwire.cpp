@@ -83,7 +83,7 @@ std::optional<QList<Command>> CommandWire::readRequest(const QByteArray &line)
         return std::nullopt;
     }
     QList<Command> commands;
-    for (const QJsonValue &value : list) {
+    for (const auto &value : list) {
         const auto command = commandIn(value.toObject());
         if (!command) {
             return std::nullopt;
@@ -102,7 +102,7 @@ std::optional<CommandReply> CommandWire::readReply(const QByteArray &line)
     CommandReply reply{ object->value(kDoneKey).toBool(), {},
         object->value(kMessageKey).toString() };
     const QJsonArray outputs = object->value(kOutputsKey).toArray();
-    for (const QJsonValue &output : outputs) {
+    for (const auto &output : outputs) {
         reply.outputs << output.toString();
     }
     return reply;
