@@ -4,6 +4,7 @@ import glob
 import os
 import shutil
 import signal
+import sys
 
 from .processes import end, parents
 from .waiting import wait_for
@@ -11,6 +12,9 @@ from .waiting import wait_for
 # What belongs beside the executable; the rest of the build folder is the tests' own.
 BESIDE = ("translations", "thirdparty")
 SANITIZER_EXIT_CODE = 99
+# The leak checker fell over its own feet while it looked on at the end of a process with threads:
+# that says nothing of the program. Once in some hundred ends, on a busy machine.
+FAILED_LOOK = "LeakSanitizer has encountered a fatal error"
 WARNING = "WARNING "
 # Which renderer is there is only known once there is an application; Qt remarks on it.
 HARMLESS = "Attribute Qt::AA_Use"
@@ -145,5 +149,9 @@ class Program:
         texts = []
         for path in sorted(glob.glob(self._reports + ".*")):
             with open(path, encoding="utf-8", errors="replace") as report:
-                texts.append(report.read())
+                text = report.read()
+            if FAILED_LOOK in text and "ERROR:" not in text:
+                print(f"the leaks of one process were not looked for:\n{text}", file=sys.stderr)
+            else:
+                texts.append(text)
         return "\n".join(texts)
